@@ -1,0 +1,88 @@
+#include <IParser/Internal/SourceBuffer.h>
+
+#include <cstring>
+
+namespace Vek::Framework::IParser::Native::Internal
+{
+
+namespace
+{
+
+constexpr std::size_t c_blockSize = 0x100000;
+constexpr std::size_t c_carrySize = 0x1000; // beside the block: the token that straddles two blocks
+
+} // namespace
+
+SourceBuffer::SourceBuffer(std::string const& text)
+    : m_begin(text.data()),
+      m_end(m_begin + text.size()),
+      m_capacityEnd(m_end),
+      m_isAtEnd(true)
+{
+}
+
+SourceBuffer::SourceBuffer(std::istream& stream, Reading reading)
+    : m_stream(&stream),
+      m_chunk(reading == Reading::ByBlock ? c_blockSize : 1)
+{
+    std::size_t const capacity = (reading == Reading::ByBlock ? c_blockSize : 0) + c_carrySize;
+    m_memory = std::make_unique_for_overwrite<char[]>(capacity);
+    m_begin = m_end = m_memory.get();
+    m_capacityEnd = m_begin + capacity;
+}
+
+char const* SourceBuffer::MoveToFront(char const* keep)
+{
+    std::size_t const kept = static_cast<std::size_t>(m_end - keep);
+    std::size_t const capacity = static_cast<std::size_t>(m_capacityEnd - m_begin);
+    if (capacity - kept < m_chunk)
+    {
+        std::size_t const grown = 2 * kept + m_chunk;
+        auto memory = std::make_unique_for_overwrite<char[]>(grown);
+        std::memcpy(memory.get(), keep, kept);
+        m_memory = std::move(memory);
+        m_capacityEnd = m_memory.get() + grown;
+    }
+    else
+        std::memmove(m_memory.get(), keep, kept);
+    m_begin = m_memory.get();
+    m_end = m_begin + kept;
+    return m_begin;
+}
+
+bool SourceBuffer::ReadOn()
+{
+    std::size_t const count = m_isAtEnd || !m_stream->good() ? 0 : ReadChunk();
+    m_end += count;
+    if (count < m_chunk)
+    {
+        m_isAtEnd = true;
+        if (m_stream != nullptr && m_stream->good())
+            m_stream->setstate(std::ios_base::eofbit);
+    }
+    return count != 0;
+}
+
+// What an unformatted read does: a stream buffer that throws makes the stream bad, and the exception goes on only
+// if the host asked for that.
+std::size_t SourceBuffer::ReadChunk()
+{
+    char* const target = m_memory.get() + (m_end - m_begin);
+    try
+    {
+        return static_cast<std::size_t>(m_stream->rdbuf()->sgetn(target, static_cast<std::streamsize>(m_chunk)));
+    }
+    catch (...)
+    {
+        m_isAtEnd = true;
+        std::ios_base::iostate const wanted = m_stream->exceptions();
+        m_stream->exceptions(std::ios_base::goodbit);
+        m_stream->setstate(std::ios_base::badbit);
+        if ((wanted & std::ios_base::badbit) != 0)
+            throw;
+        m_stream->exceptions(wanted);
+        return 0;
+    }
+}
+
+} // namespace Vek::Framework::IParser::Native::Internal

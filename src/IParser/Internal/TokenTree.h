@@ -1,0 +1,64 @@
+#pragma once
+
+#include <IParser/Internal/ByteFinder.h>
+#include <IParser/Internal/StateToken.h>
+#include <IParser/Internal/StringPartNode.h>
+
+#include <array>
+#include <deque>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Vek::Framework::IParser::Native::Internal
+{
+
+/// The tokens of one state as a tree of their keys, with what recognition needs to find them fast.
+/// Nodes lie in one list, so that neither a long token nor many of them cost depth on the stack.
+class TokenTree
+{
+public:
+    using Node = StringPartNode<StateToken>;
+
+    TokenTree() = default;
+    TokenTree(TokenTree const&) = delete;
+    TokenTree& operator=(TokenTree const&) = delete;
+
+    /// `token` has a key of at least one byte. Throws KeyAlreadyInsertedException; the tree is unchanged then.
+    void Insert(std::unique_ptr<StateToken> token);
+
+    bool HasCaseSensitiveTokens() const { return m_hasCaseSensitiveTokens; }
+    bool HasCaseInsensitiveTokens() const { return m_hasCaseInsensitiveTokens; }
+
+    Node const* GetRoot(unsigned char first) const { return m_roots[first]; }
+    StateToken* FindLongestPrefix(std::string const& text) const;
+
+    /// The first byte in [at, end) with which a token may begin, or `end`.
+    char const* FindTokenStart(char const* at, char const* end) const { return m_starts.Find(at, end); }
+
+    /// The first byte in [at, end) that is not a skip token all by itself, or `end`.
+    char const* SkipBlanks(char const* at, char const* end) const
+    {
+        while (at != end && m_isBlank[static_cast<unsigned char>(*at)])
+            ++at;
+        return at;
+    }
+
+private:
+    template <class Fold>
+    StateToken* FindLongestPrefix(std::string const& text, Fold fold) const;
+    Node* FindNode(std::string const& key, std::size_t& matched) const;
+    void Append(Node* parent, std::size_t depth, StateToken& token);
+    void Classify(unsigned char byte);
+    bool IsBlank(unsigned char byte) const;
+
+    std::array<Node*, 256> m_roots {};
+    std::deque<Node> m_nodes;
+    std::vector<std::unique_ptr<StateToken>> m_tokens;
+    ByteFinder m_starts;
+    std::array<bool, 256> m_isBlank {};
+    bool m_hasCaseSensitiveTokens = false;
+    bool m_hasCaseInsensitiveTokens = false;
+};
+
+} // namespace Vek::Framework::IParser::Native::Internal

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <IParser/Internal/SourceBuffer.h>
+#include <IParser/Internal/SourcePosition.h>
+#include <IParser/Internal/StateTable.h>
+#include <IParser/Internal/TokenTree.h>
+#include <IParser/ParserResult.h>
+
+#include <string>
+#include <utility>
+
+namespace Vek::Framework::IParser::Native
+{
+
+/// One run of a StateParser over one source.
+///
+/// What is consumed ends at m_textStart; the pending text runs from there to the token that is looked for. Text that
+/// the buffer has no room for moves to m_text, and m_textStart to the buffer's front.
+class StateProcessor
+{
+public:
+    template <class... Source>
+    StateProcessor(Internal::StateTable const& states, State& initialState, Source&&... source)
+        : m_states(states),
+          m_state(&initialState),
+          m_source(std::forward<Source>(source)...),
+          m_base(m_source.GetBegin()),
+          m_textStart(m_base)
+    {
+    }
+
+    ParserResult Process();
+
+private:
+    bool FindNextToken();
+    Internal::StateToken* MatchToken(char const*& at);
+    template <bool isCaseSensitive>
+    Internal::StateToken* MatchToken(char const*& at);
+    bool ReadOn(char const*& at);
+    void SetPendingTextAside(char const* end);
+
+    bool ProcessToken();
+    bool ConsumeToken();
+    bool ConsumeText(char const* end);
+    std::string const& GetPendingText(char const* end);
+    template <class Call>
+    bool InvokeConsumer(Call const& call);
+    void SwitchState(unsigned int id);
+
+    void MovePositionInStream(char const* end);
+    unsigned long long GetOffset() const;
+    ParserResult GetResult();
+
+    Internal::StateTable const& m_states;
+    State* m_state;
+    Internal::SourceBuffer m_source;
+
+    Internal::SourcePosition m_position; // of m_base, or of the pending text once that was set aside
+    Internal::SourcePosition m_asideEnd; // where the text that was set aside ends, which is m_base
+    char const* m_base;                  // line and column are counted up to here
+    char const* m_textStart;
+    bool m_isTextAside = false;
+    std::string m_text; // the pending text when set aside, otherwise the last text that was handed out
+
+    char const* m_tokenStart = nullptr;
+    Internal::StateToken const* m_token = nullptr;
+    std::size_t m_tokenLength = 0;
+
+    ParserResult::ResultCode m_code = ParserResult::Ok;
+};
+
+} // namespace Vek::Framework::IParser::Native
