@@ -1,0 +1,87 @@
+#include <Platform/SingleBytePage.h>
+#include <Platform/WideBlock.h>
+
+#include <bit>
+
+namespace Vek::Platform
+{
+
+namespace
+{
+
+constexpr std::size_t c_blockSize = 16;
+
+/// Calls `action` with the position of every set bit.
+template <typename Action>
+void ForEachBit(unsigned bits, Action action)
+{
+    for (; bits != 0; bits &= bits - 1)
+        action(static_cast<unsigned>(std::countr_zero(bits)));
+}
+
+} // namespace
+
+std::wstring SingleBytePage::Decode(std::string const& text) const
+{
+    std::wstring result(text.size(), L'\0');
+    std::size_t at = 0;
+    for (; text.size() - at >= c_blockSize; at += c_blockSize)
+    {
+        __m128i const bytes = LoadBytes(&text[at]);
+        StoreWidened(&result[at], bytes);
+        ForEachBit(FindMapped(bytes), [&](unsigned bit) { result[at + bit] = DecodeByte(text[at + bit]); });
+    }
+    for (; at < text.size(); ++at)
+        result[at] = DecodeByte(text[at]);
+    return result;
+}
+
+std::string SingleBytePage::Encode(std::wstring const& text)
+{
+    std::string result(text.size(), '\0');
+    std::size_t at = 0;
+    for (; text.size() - at >= c_blockSize; at += c_blockSize)
+    {
+        __m128i const low = LoadUnits(&text[at]);
+        __m128i const high = LoadUnits(&text[at + c_blockSize / 2]);
+        StoreBytes(&result[at], _mm_packus_epi16(low, high));
+        ForEachBit(FindMapped(low, high), [&](unsigned bit) { result[at + bit] = EncodeUnit(text[at + bit]); });
+    }
+    for (; at < text.size(); ++at)
+        result[at] = EncodeUnit(text[at]);
+    return result;
+}
+
+/// The bytes whose unit is not simply their value.
+unsigned SingleBytePage::FindMapped(__m128i bytes) const noexcept
+{
+    if (!m_isLatin)
+        return GetSignBits(bytes);
+    __m128i const row = _mm_and_si128(bytes, _mm_set1_epi8(static_cast<char>(0xE0)));
+    return GetSignBits(_mm_cmpeq_epi8(row, _mm_set1_epi8(static_cast<char>(0x80))));
+}
+
+/// The units whose byte is not simply their value.
+unsigned SingleBytePage::FindMapped(__m128i low, __m128i high) const noexcept
+{
+    __m128i const ascii = _mm_set1_epi16(0x007F);
+    unsigned const mapped = 0xFFFFU & ~GetZeroBits(_mm_andnot_si128(ascii, low), _mm_andnot_si128(ascii, high));
+    if (mapped == 0 || !m_isLatin)
+        return mapped;
+    __m128i const byte = _mm_set1_epi16(0x00FF);
+    unsigned const bytes = GetZeroBits(_mm_andnot_si128(byte, low), _mm_andnot_si128(byte, high));
+    return mapped & ~(bytes & ~FindMapped(_mm_packus_epi16(low, high)));
+}
+
+wchar_t SingleBytePage::DecodeByte(char byte) const noexcept
+{
+    return static_cast<wchar_t>(m_units[static_cast<unsigned char>(byte)]);
+}
+
+char SingleBytePage::EncodeUnit(wchar_t unit)
+{
+    auto const value = ToUnsigned(unit);
+    return value > 0xFFFFU ? '?' : static_cast<char>(m_bytes.Get(static_cast<char16_t>(value)));
+}
+
+} // namespace Vek::Platform

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+#include <emmintrin.h>
+#include <type_traits>
+
+/// Blocks of wide text in SSE2 registers: the one place that knows how wide a wchar_t is.
+namespace Vek::Platform
+{
+
+/// The unsigned value of a unit. wchar_t is signed on some platforms.
+constexpr std::uint32_t ToUnsigned(wchar_t unit) noexcept
+{
+    return static_cast<std::make_unsigned_t<wchar_t>>(unit);
+}
+
+/// Eight units as 16-bit lanes. Units below 0x7FFF are exact; every other one comes as some value from 0x7FFF up.
+inline __m128i LoadUnits(wchar_t const* units) noexcept
+{
+    auto const* const source = reinterpret_cast<__m128i const*>(units);
+    if constexpr (sizeof(wchar_t) == 2)
+        return _mm_loadu_si128(source);
+    else
+        return _mm_packs_epi32(_mm_loadu_si128(source), _mm_loadu_si128(source + 1));
+}
+
+/// Writes eight 16-bit lanes as eight units.
+inline void StoreUnits(wchar_t* units, __m128i lanes) noexcept
+{
+    auto* const target = reinterpret_cast<__m128i*>(units);
+    if constexpr (sizeof(wchar_t) == 2)
+    {
+        _mm_storeu_si128(target, lanes);
+    }
+    else
+    {
+        _mm_storeu_si128(target, _mm_unpacklo_epi16(lanes, _mm_setzero_si128()));
+        _mm_storeu_si128(target + 1, _mm_unpackhi_epi16(lanes, _mm_setzero_si128()));
+    }
+}
+
+inline __m128i LoadBytes(void const* bytes) noexcept
+{
+    return _mm_loadu_si128(static_cast<__m128i const*>(bytes));
+}
+
+inline void StoreBytes(void* target, __m128i bytes) noexcept
+{
+    _mm_storeu_si128(static_cast<__m128i*>(target), bytes);
+}
+
+/// Writes sixteen bytes as sixteen units of the same value.
+inline void StoreWidened(wchar_t* units, __m128i bytes) noexcept
+{
+    StoreUnits(units, _mm_unpacklo_epi8(bytes, _mm_setzero_si128()));
+    StoreUnits(units + 8, _mm_unpackhi_epi8(bytes, _mm_setzero_si128()));
+}
+
+/// One bit for each of sixteen bytes: set where the byte's highest bit is.
+inline unsigned GetSignBits(__m128i bytes) noexcept
+{
+    return static_cast<unsigned>(_mm_movemask_epi8(bytes));
+}
+
+/// One bit for each of sixteen lanes, eight in each argument: set where the lane is zero.
+inline unsigned GetZeroBits(__m128i low, __m128i high) noexcept
+{
+    __m128i const zero = _mm_setzero_si128();
+    return GetSignBits(_mm_packs_epi16(_mm_cmpeq_epi16(low, zero), _mm_cmpeq_epi16(high, zero)));
+}
+
+} // namespace Vek::Platform
