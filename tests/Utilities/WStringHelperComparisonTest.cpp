@@ -1,0 +1,205 @@
+#include "UnitText.h"
+
+#include <Utilities/WStringHelper.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+
+using Vek::Framework::Utilities::WStringHelper;
+
+namespace
+{
+
+int Sign(int value)
+{
+    return (value > 0) - (value < 0);
+}
+
+using Folds = std::map<unsigned, unsigned>;
+
+/// Every kind of unit that takes a way of its own, with its lower-case partner.
+Folds const c_folds = {
+    { 0, 0 },           { 'a', 'a' },       { 'A', 'a' },       { 'Z', 'z' },       { '[', '[' },
+    { '@', '@' },       { 0xC4, 0xE4 },     { 0xE4, 0xE4 },     { 0xD7, 0xD7 },     { 0xF7, 0xF7 },
+    { 0xDF, 0xDF },     { 0xFF, 0xFF },     { 0x178, 0xFF },    { 0x130, 0x130 },   { 0x410, 0x430 },
+    { 0x430, 0x430 },   { 0x212A, 0x212A }, { 0x7FFE, 0x7FFE }, { 0x7FFF, 0x7FFF }, { 0x8000, 0x8000 },
+    { 0xD801, 0xD801 }, { 0xDC00, 0xDC00 }, { 0xFF21, 0xFF41 }, { 0xFFFF, 0xFFFF },
+};
+
+int CompareNaively(std::wstring const& a, std::wstring const& b)
+{
+    for (std::size_t at = 0; at < std::max(a.size(), b.size()); ++at)
+    {
+        unsigned const left = at < a.size() ? c_folds.at(static_cast<unsigned>(a[at])) : 0;
+        unsigned const right = at < b.size() ? c_folds.at(static_cast<unsigned>(b[at])) : 0;
+        if (left != right || left == 0)
+            return left < right ? -1 : left > right;
+    }
+    return 0;
+}
+
+/// A text of random units; a copy changed in few places meets the long equal runs.
+class RandomTexts
+{
+public:
+    std::wstring Make()
+    {
+        std::wstring text(m_random() % 40, L'\0');
+        std::generate(text.begin(), text.end(), [this] { return Pick(); });
+        return text;
+    }
+
+    std::wstring Vary(std::wstring text)
+    {
+        for (wchar_t& unit : text)
+        {
+            if (m_random() % 4 == 0)
+                unit = PickPartner(static_cast<unsigned>(unit));
+        }
+        if (!text.empty() && m_random() % 2 == 0)
+            text[m_random() % text.size()] = Pick();
+        return text;
+    }
+
+private:
+    wchar_t Pick()
+    {
+        // A 0 ends the comparison: rarely, so that the rest is compared too.
+        std::size_t const index = m_random() % 50 == 0 ? 0 : 1 + m_random() % (c_folds.size() - 1);
+        return static_cast<wchar_t>(std::next(c_folds.begin(), static_cast<std::ptrdiff_t>(index))->first);
+    }
+
+    wchar_t PickPartner(unsigned unit)
+    {
+        unsigned const fold = c_folds.at(unit);
+        for (auto const& [other, otherFold] : c_folds)
+        {
+            if (other != unit && otherFold == fold)
+                return static_cast<wchar_t>(other);
+        }
+        return static_cast<wchar_t>(unit);
+    }
+
+    std::mt19937 m_random { 20240131 };
+};
+
+} // namespace
+
+TEST(WStringHelperComparison, AgreesWithThePlainRuleOnRandomTexts)
+{
+    RandomTexts texts;
+    for (int round = 0; round < 20000; ++round)
+    {
+        std::wstring const a = texts.Make();
+        std::wstring const b = round % 4 == 0 ? texts.Make() : texts.Vary(a);
+        int const order = CompareNaively(a, b);
+        ASSERT_EQ(order, Sign(WStringHelper::CompareIgnoreCase(a, b))) << ::testing::PrintToString(a + L'|' + b);
+        ASSERT_EQ(-order, Sign(WStringHelper::CompareIgnoreCase(b, a)));
+        ASSERT_EQ(a.size() == b.size() && order == 0, WStringHelper::EqualsIgnoreCase(a, b));
+        std::wstring const longer = a + b;
+        ASSERT_EQ(CompareNaively(longer.substr(0, b.size()), b) == 0, WStringHelper::StartsWithIgnoreCase(longer, b));
+        std::wstring const end = (b + a).substr(a.size());
+        ASSERT_EQ(CompareNaively(end, b) == 0, WStringHelper::EndsWithIgnoreCase(b + a, b));
+    }
+}
+
+TEST(WStringHelperComparison, WholeAlphabetsHaveTheirPartners)
+{
+    struct Row
+    {
+        unsigned first, last, distance;
+        char const* why;
+    };
+    Row const rows[] = {
+        { 'A', 'Z', 32, "ASCII" },
+        { 0xC0, 0xD6, 32, "Latin-1 before the multiplication sign" },
+        { 0xD8, 0xDE, 32, "Latin-1 behind it" },
+        { 0x391, 0x3A1, 32, "Greek before the final sigma" },
+        { 0x3A3, 0x3AB, 32, "Greek behind it" },
+        { 0x400, 0x40F, 80, "Cyrillic extensions" },
+        { 0x410, 0x42F, 32, "Cyrillic" },
+        { 0x531, 0x556, 48, "Armenian" },
+        { 0xFF21, 0xFF3A, 32, "full width" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        for (unsigned upper = row.first; upper <= row.last; ++upper)
+            EXPECT_TRUE(WStringHelper::EqualsIgnoreCase(MakeText({ upper }), MakeText({ upper + row.distance })));
+        EXPECT_FALSE(
+            WStringHelper::EqualsIgnoreCase(MakeText({ row.first - 1 }), MakeText({ row.first - 1 + row.distance })));
+    }
+}
+
+TEST(WStringHelperComparison, UnitsWithoutAWayBackAreThemselves)
+{
+    struct Row
+    {
+        unsigned unit, other;
+        char const* why;
+    };
+    Row const rows[] = {
+        { 0x130, 'i', "dotted I" },           { 0x131, 'I', "dotless i" },
+        { 0x212A, 'k', "Kelvin sign" },       { 0x1E9E, 0xDF, "capital sharp s" },
+        { 0xB5, 0x3BC, "micro sign and mu" }, { 0x17F, 's', "long s" },
+        { 0xD7, 0xF7, "signs, no letters" },  { 0xDF, 0xFF, "sharp s and y with diaeresis" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        EXPECT_FALSE(WStringHelper::EqualsIgnoreCase(MakeText({ row.unit }), MakeText({ row.other })));
+        EXPECT_FALSE(WStringHelper::EqualsIgnoreCase(std::wstring(8, static_cast<wchar_t>(row.unit)),
+                                                     std::wstring(8, static_cast<wchar_t>(row.other))));
+    }
+}
+
+TEST(WStringHelperComparison, ElementsAboveTheUnitsEqualOnlyThemselvesAndSortLast)
+{
+    if (!c_hasWideElements)
+        return;
+    std::wstring const wide = MakeText({ 0x10041, 0x10042, 0x10043, 0x10044, 0x10045, 0x10046, 0x10047, 0x8000FFFF });
+    std::wstring const low = MakeText({ 0x41, 0x42, 0x43, 0x44, 0x45, 0x46, 0x47, 0xFFFF });
+    EXPECT_TRUE(WStringHelper::EqualsIgnoreCase(wide, wide));
+    EXPECT_FALSE(WStringHelper::EqualsIgnoreCase(wide, low));
+    EXPECT_GT(WStringHelper::CompareIgnoreCase(wide, low), 0);
+    EXPECT_GT(WStringHelper::CompareIgnoreCase(wide.substr(7), low.substr(7)), 0);
+}
+
+TEST(WStringHelperComparison, ContainsEndsAtZeroAndIgnoresTheCaseOfLetters)
+{
+    using namespace std::string_literals;
+    struct Row
+    {
+        std::wstring text, part;
+        bool expected;
+        char const* why;
+    };
+    Row const rows[] = {
+        { L"", L"", true, "an empty part is everywhere" },
+        { L"", L"a", false, "nothing is in the empty text" },
+        { L"Nummer", L"\0"s, false, "a part that ends at once is not found" },
+        { L"aab", L"AB", true, "a match that begins inside a failed one" },
+        { L"abcabd", L"ABD", true, "the same further back" },
+        { L"ab\0cd"s, L"cd", false, "the text ends at its 0 unit" },
+        { L"abcd", L"BC\0x"s, true, "so does the part" },
+        { MakeText({ 'G', 'R', 0xDC, 'N' }), MakeText({ 'r', 0xFC }), true, "umlauts" },
+        { MakeText({ 0x416, 0x418 }), MakeText({ 0x438 }), true, "Cyrillic" },
+        { MakeText({ 0x3A3 }), MakeText({ 0x3C2 }), true, "final sigma" },
+        { MakeText({ 0x130 }), MakeText({ 'i' }), false, "dotted I" },
+        { MakeText({ 'e' }), MakeText({ 0xE9 }), false, "an accent is a difference" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        EXPECT_EQ(row.expected, WStringHelper::ContainsIgnoreCase(row.text, row.part));
+    }
+}
+
+TEST(WStringHelperComparison, CodePageTextIsConvertedFirst)
+{
+    EXPECT_TRUE(WStringHelper::EqualsIgnoreCaseWithCurrentCodePage(MakeText({ 0xC4, 0x20AC }), "\344\200"));
+    EXPECT_FALSE(WStringHelper::EqualsIgnoreCaseWithCurrentCodePage(L"a", "ab"));
+}

@@ -1,0 +1,214 @@
+#include "UnitText.h"
+
+#include <Utilities/WStringHelper.h>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <stdexcept>
+
+using Vek::Framework::Utilities::WStringHelper;
+
+namespace
+{
+
+constexpr unsigned c_lastCharacter = 0x10FFFF;
+
+bool IsSurrogate(unsigned value)
+{
+    return value >= 0xD800 && value <= 0xDFFF;
+}
+
+void AppendUtf8(std::string& text, unsigned character)
+{
+    unsigned const trails = character < 0x80 ? 0 : character < 0x800 ? 1 : character < 0x10000 ? 2 : 3;
+    unsigned const leads[] = { 0x00, 0xC0, 0xE0, 0xF0 };
+    text.push_back(static_cast<char>(leads[trails] | character >> 6 * trails));
+    for (unsigned left = trails; left-- != 0;)
+        text.push_back(static_cast<char>(0x80 | (character >> 6 * left & 0x3F)));
+}
+
+void AppendUtf16(std::wstring& text, unsigned character)
+{
+    if (character > 0xFFFF)
+        text += MakeText({ 0xD800 + ((character - 0x10000) >> 10), 0xDC00 + (character & 0x3FF) });
+    else
+        text += MakeText({ character });
+}
+
+/// Well-formed is what the encoding of some character gives, nothing else.
+std::optional<std::wstring> DecodeNaively(std::string const& text)
+{
+    std::wstring result;
+    for (std::size_t at = 0; at < text.size();)
+    {
+        auto const lead = static_cast<unsigned char>(text[at]);
+        std::size_t const size = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        unsigned character = size == 1 ? lead : lead & (0xFFU >> (size + 1));
+        for (std::size_t trail = 1; trail < size && at + trail < text.size(); ++trail)
+            character = character << 6 | (static_cast<unsigned char>(text[at + trail]) & 0x3FU);
+        std::string encoded;
+        AppendUtf8(encoded, character);
+        if (IsSurrogate(character) || character > c_lastCharacter || encoded != text.substr(at, size))
+            return std::nullopt;
+        AppendUtf16(result, character);
+        at += size;
+    }
+    return result;
+}
+
+std::optional<std::wstring> Decode(std::string const& text)
+{
+    try
+    {
+        return WStringHelper::GetUTF16FromUTF8(text);
+    }
+    catch (std::range_error const& error)
+    {
+        EXPECT_STREQ("bad conversion", error.what());
+        return std::nullopt;
+    }
+}
+
+bool IsEncodable(std::wstring const& text)
+{
+    try
+    {
+        WStringHelper::GetUTF8FromUTF16(text);
+        return true;
+    }
+    catch (std::range_error const& error)
+    {
+        EXPECT_STREQ("bad conversion", error.what());
+        return false;
+    }
+}
+
+/// Windows-1252 as the Unicode consortium lists it, with the C1 code where it has no character.
+std::wstring MakeCodePageUnits()
+{
+    std::wstring units;
+    for (unsigned byte = 0; byte < 0x80; ++byte)
+        units += MakeText({ byte });
+    units += MakeText({ 0x20AC, 0x81,   0x201A, 0x192,  0x201E, 0x2026, 0x2020, 0x2021, 0x2C6,  0x2030, 0x160,
+                        0x2039, 0x152,  0x8D,   0x17D,  0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+                        0x2013, 0x2014, 0x2DC,  0x2122, 0x161,  0x203A, 0x153,  0x9D,   0x17E,  0x178 });
+    for (unsigned byte = 0xA0; byte < 0x100; ++byte)
+        units += MakeText({ byte });
+    return units;
+}
+
+std::string MakeAllBytes()
+{
+    std::string bytes;
+    for (unsigned byte = 0; byte < 0x100; ++byte)
+        bytes.push_back(static_cast<char>(byte));
+    return bytes;
+}
+
+} // namespace
+
+TEST(WStringHelperConversion, EveryCharacterThroughUtf8AndBack)
+{
+    std::string utf8;
+    std::wstring utf16;
+    for (unsigned character = 0; character <= c_lastCharacter; ++character)
+    {
+        if (IsSurrogate(character))
+            continue;
+        AppendUtf8(utf8, character);
+        AppendUtf16(utf16, character);
+        if (character % 5 == 0) // ASCII runs of changing length between the others
+            utf8.append(character % 37, 'x'), utf16.append(character % 37, L'x');
+    }
+    EXPECT_TRUE(WStringHelper::GetUTF16FromUTF8(utf8) == utf16);
+    EXPECT_TRUE(WStringHelper::GetUTF8FromUTF16(utf16) == utf8);
+}
+
+TEST(WStringHelperConversion, Utf8DecoderAgreesWithThePlainRuleOnEdgeBytes)
+{
+    unsigned char const edges[] = { 0x41, 0x7F, 0x80, 0x8F, 0x90, 0x9F, 0xA0, 0xBF, 0xC1,
+                                    0xC2, 0xDF, 0xE0, 0xED, 0xEF, 0xF0, 0xF4, 0xF5, 0xFF };
+    std::size_t const count = std::size(edges);
+    for (std::size_t index = 0; index < count * count * count * count; ++index)
+    {
+        std::string text(index % 17, 'x'); // every place in a block
+        for (std::size_t left = index, length = 0; length < 4; ++length, left /= count)
+            text.push_back(static_cast<char>(edges[left % count]));
+        ASSERT_TRUE(Decode(text) == DecodeNaively(text)) << ::testing::PrintToString(text);
+    }
+}
+
+TEST(WStringHelperConversion, Utf8RefusesEveryTruncationAndKeepsNothing)
+{
+    for (std::string const character : { "\303\244", "\342\202\254", "\360\237\230\200" })
+    {
+        for (std::size_t size = 1; size < character.size(); ++size)
+        {
+            EXPECT_FALSE(Decode(std::string(20, 'x') + character.substr(0, size)).has_value());
+            EXPECT_FALSE(Decode(character.substr(0, size) + std::string(20, 'x')).has_value());
+        }
+    }
+}
+
+TEST(WStringHelperConversion, Utf16RefusesExactlyTheLoneSurrogates)
+{
+    for (unsigned unit = 0; unit <= 0xFFFF; ++unit)
+    {
+        std::wstring const text(unit % 17, L'x');
+        bool const isHigh = unit >= 0xD800 && unit <= 0xDBFF;
+        ASSERT_EQ(!IsSurrogate(unit), IsEncodable(text + MakeText({ unit }))) << unit;
+        ASSERT_EQ(!IsSurrogate(unit), IsEncodable(text + MakeText({ unit, 'x' }) + std::wstring(20, L'x'))) << unit;
+        ASSERT_EQ(isHigh, IsEncodable(MakeText({ unit, 0xDFFF }) + text)) << unit;
+    }
+    if (c_hasWideElements)
+    {
+        EXPECT_FALSE(IsEncodable(MakeText({ 0x10000 })));
+        EXPECT_FALSE(IsEncodable(MakeText({ 0xFFFFFFC4 })));
+    }
+}
+
+TEST(WStringHelperConversion, CodePageBothWaysAtEveryPlaceOfABlock)
+{
+    for (std::size_t shift = 0; shift < 16; ++shift)
+    {
+        std::string const bytes = std::string(shift, 'x') + MakeAllBytes();
+        std::wstring const units = std::wstring(shift, L'x') + MakeCodePageUnits();
+        EXPECT_TRUE(WStringHelper::GetWStringFromCurrentCodepage(bytes) == units);
+        EXPECT_TRUE(WStringHelper::GetCurrentCodepageString(units) == bytes);
+    }
+    EXPECT_EQ(L"", WStringHelper::GetWStringFromCurrentCodepage(""));
+    EXPECT_EQ("", WStringHelper::GetCurrentCodepageString(L""));
+}
+
+TEST(WStringHelperConversion, CodePageAnswersAQuestionMarkForWhatItCannotHold)
+{
+    struct Row
+    {
+        std::wstring text;
+        char const* expected;
+        char const* why;
+    };
+    Row rows[] = {
+        { MakeText({ 0x80 }), "?", "the C1 code of a byte that has a character" },
+        { MakeText({ 0x0391 }), "?", "Greek" },
+        { MakeText({ 0x4E2D }), "?", "above the low byte" },
+        { MakeText({ 0xD83D, 0xDE00 }), "??", "a pair is two units" },
+        { MakeText({ 0xDC00 }), "?", "a lone surrogate" },
+        { MakeText({ 'x', c_hasWideElements ? 0x10041U : 0x4E2DU }), "x?", "no unit at all" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        EXPECT_EQ(row.expected, WStringHelper::GetCurrentCodepageString(row.text));
+        EXPECT_EQ(std::string(16, 'x') + row.expected + std::string(16, 'y'),
+                  WStringHelper::GetCurrentCodepageString(std::wstring(16, L'x') + row.text + std::wstring(16, L'y')));
+    }
+}
+
+TEST(WStringHelperConversion, AsciiOnlyKeepsItsTwoOddities)
+{
+    std::wstring const units = WStringHelper::GetWStringFromAsciiOnly(MakeAllBytes());
+    for (unsigned byte = 0; byte < 0x100; ++byte)
+        EXPECT_TRUE(units[byte] == static_cast<wchar_t>(byte == 0x7F ? '~' : byte < 0x80 ? byte : 0xFF00 + byte));
+}
