@@ -30,6 +30,7 @@ State::State(unsigned int id, unsigned int const& activeRuns)
     : m_id(id),
       m_activeRuns(activeRuns),
       m_textConsumer(std::make_shared<TextConsumer const>()),
+      m_textViewConsumer(std::make_shared<TextViewConsumer const>()),
       m_numberConsumer(std::make_shared<NumberConsumer const>()),
       m_endOfSourceConsumer(std::make_shared<EndOfSourceConsumer const>()),
       m_tokens(std::make_unique<Internal::TokenTree>())
@@ -52,11 +53,17 @@ void State::Replace(std::shared_ptr<Consumer const>& slot, Consumer consumer)
     else
         m_replacedConsumers.push_back(slot);
     slot = std::move(fresh);
+    m_takesText = *m_textConsumer || *m_textViewConsumer || *m_numberConsumer;
 }
 
 void State::RegisterTextConsumer(TextConsumer consumer)
 {
     Replace(m_textConsumer, std::move(consumer));
+}
+
+void State::RegisterTextViewConsumer(TextViewConsumer consumer)
+{
+    Replace(m_textViewConsumer, std::move(consumer));
 }
 
 void State::RegisterNumberConsumer(NumberConsumer consumer)

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Vek::Framework::IParser::Native
@@ -45,6 +46,7 @@ public:
     };
 
     using TextConsumer = std::function<void(std::string const& text, ResultParams&)>;
+    using TextViewConsumer = std::function<void(std::string_view text, ResultParams&)>;
     using NumberConsumer = std::function<void(double number, ResultParams&)>;
     using EndOfSourceConsumer = std::function<void(ResultParams&)>;
     using TokenConsumer = std::function<void(ResultParams&)>;
@@ -56,8 +58,11 @@ public:
     unsigned int GetId() const noexcept;
 
     /// Replaces the consumer of the text before a token or the end. The text is valid during the call only.
-    /// A state without text consumer drops its text.
+    /// A state that takes text in no way drops it.
     void RegisterTextConsumer(TextConsumer consumer);
+    /// Replaces the consumer that is handed the same text without a copy of it; where there is one, the text consumer
+    /// is not called. The view is valid during the call only.
+    void RegisterTextViewConsumer(TextViewConsumer consumer);
     /// Replaces the consumer of the texts that strtod, in the current C locale, takes whole and in range.
     /// All other texts go to the text consumer.
     void RegisterNumberConsumer(NumberConsumer consumer);
@@ -107,9 +112,11 @@ private:
     unsigned int m_id;
     unsigned int const& m_activeRuns; // of the parser that owns this state
     std::shared_ptr<TextConsumer const> m_textConsumer;
+    std::shared_ptr<TextViewConsumer const> m_textViewConsumer;
     std::shared_ptr<NumberConsumer const> m_numberConsumer;
     std::shared_ptr<EndOfSourceConsumer const> m_endOfSourceConsumer;
     std::vector<std::shared_ptr<void const>> m_replacedConsumers; // kept while one of them may be running
+    bool m_takesText = false;                                     // in one of the three ways
     std::unique_ptr<Internal::TokenTree> m_tokens;
 };
 

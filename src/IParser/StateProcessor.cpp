@@ -33,13 +33,24 @@ ParserResult StateProcessor::Process()
 bool StateProcessor::FindNextToken()
 {
     Internal::TokenTree const& tokens = *m_state->m_tokens;
+    char const* const end = m_source.GetEnd();
     if (!m_isTextAside)
-        m_textStart = tokens.SkipBlanks(m_textStart, m_source.GetEnd());
+        m_textStart = tokens.SkipBlanks(m_textStart, end);
 
-    char const* at = m_textStart;
+    char const* const at = tokens.FindTokenStart(m_textStart, end);
+    m_token = at == end ? nullptr : tokens.GetSingleByteToken(*at);
+    if (m_token == nullptr)
+        return FindNextTokenFrom(at);
+    m_tokenStart = at;
+    m_tokenLength = 1;
+    return true;
+}
+
+bool StateProcessor::FindNextTokenFrom(char const* at)
+{
     for (;;)
     {
-        at = tokens.FindTokenStart(at, m_source.GetEnd());
+        at = m_state->m_tokens->FindTokenStart(at, m_source.GetEnd());
         if (at == m_source.GetEnd())
         {
             if (!ReadOn(at))
@@ -114,7 +125,7 @@ void StateProcessor::SetPendingTextAside(char const* end)
         m_asideEnd = m_position;
         m_text.clear();
     }
-    if (m_state->HasTextConsumer() || m_state->HasNumberConsumer())
+    if (m_state->m_takesText)
         m_text.append(m_textStart, end);
     m_asideEnd.Advance(m_textStart, end);
     m_isTextAside = m_asideEnd.offset != m_position.offset;
@@ -124,18 +135,18 @@ void StateProcessor::SetPendingTextAside(char const* end)
 
 bool StateProcessor::ProcessToken()
 {
-    State const* const state = m_state;
-    char const* const tokenStart = m_tokenStart;
-    if (!ConsumeText(tokenStart))
-        return false;
-    MovePositionInStream(tokenStart);
-    if (m_state != state)
-        return true; // the new state recognises the token anew
-
-    char const* const tokenEnd = tokenStart + m_tokenLength;
+    if (m_textStart != m_tokenStart || m_isTextAside)
+    {
+        State const* const state = m_state;
+        if (!ConsumeText(m_tokenStart))
+            return false;
+        MovePositionInStream(m_tokenStart);
+        if (m_state != state)
+            return true; // the new state recognises the token anew
+    }
     if (!ConsumeToken())
         return false;
-    MovePositionInStream(tokenEnd);
+    m_textStart = m_tokenStart + m_tokenLength;
     return true;
 }
 
@@ -158,16 +169,26 @@ bool StateProcessor::ConsumeToken()
 bool StateProcessor::ConsumeText(char const* end)
 {
     State const& state = *m_state;
-    if ((m_textStart == end && !m_isTextAside) || !(state.HasTextConsumer() || state.HasNumberConsumer()))
+    if ((m_textStart == end && !m_isTextAside) || !state.m_takesText)
         return true;
+    if (m_isTextAside || !*state.m_textViewConsumer || *state.m_numberConsumer)
+        return ConsumeNumberOrText(end);
+    std::string_view const text(m_textStart, static_cast<std::size_t>(end - m_textStart));
+    return InvokeConsumer([&](State::ResultParams& params) { (*state.m_textViewConsumer)(text, params); });
+}
 
+bool StateProcessor::ConsumeNumberOrText(char const* end)
+{
+    State const& state = *m_state;
     std::string const& text = GetPendingText(end);
     double number = 0;
-    if (state.HasNumberConsumer() && Internal::TryGetNumber(text, number))
-        return InvokeConsumer([&](State::ResultParams& params) { state.GetNumberConsumer()(number, params); });
-    if (!state.HasTextConsumer())
-        return true;
-    return InvokeConsumer([&](State::ResultParams& params) { state.GetTextConsumer()(text, params); });
+    if (*state.m_numberConsumer && Internal::TryGetNumber(text, number))
+        return InvokeConsumer([&](State::ResultParams& params) { (*state.m_numberConsumer)(number, params); });
+    if (*state.m_textViewConsumer)
+        return InvokeConsumer([&](State::ResultParams& params) { (*state.m_textViewConsumer)(text, params); });
+    if (*state.m_textConsumer)
+        return InvokeConsumer([&](State::ResultParams& params) { (*state.m_textConsumer)(text, params); });
+    return true;
 }
 
 std::string const& StateProcessor::GetPendingText(char const* end)
@@ -182,7 +203,7 @@ std::string const& StateProcessor::GetPendingText(char const* end)
 template <class Call>
 bool StateProcessor::InvokeConsumer(Call const& call)
 {
-    State::ResultParams params { m_state->GetId(), false, false, GetOffset() };
+    State::ResultParams params { m_state->m_id, false, false, GetOffset() };
     call(params);
     if (params.stop)
         return false;

@@ -33,6 +33,7 @@ public:
 
 private:
     bool FindNextToken();
+    bool FindNextTokenFrom(char const* at);
     Internal::StateToken* MatchToken(char const*& at);
     template <bool isCaseSensitive>
     Internal::StateToken* MatchToken(char const*& at);
@@ -42,6 +43,7 @@ private:
     bool ProcessToken();
     bool ConsumeToken();
     bool ConsumeText(char const* end);
+    bool ConsumeNumberOrText(char const* end);
     std::string const& GetPendingText(char const* end);
     template <class Call>
     bool InvokeConsumer(Call const& call);

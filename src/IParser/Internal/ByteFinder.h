@@ -9,47 +9,70 @@
 namespace Vek::Framework::IParser::Native::Internal
 {
 
-/// A set of bytes, and the search for the first of them in a text: 16 bytes at a time while the set has at most four.
+/// A set of bytes, and the search for its members in a text: 16 bytes at a time while the set has at most eight.
 class ByteFinder
 {
 public:
-    ByteFinder() = default;
+    bool Contains(char byte) const { return m_contains[static_cast<unsigned char>(byte)]; }
 
     void Add(unsigned char byte)
     {
         if (m_contains[byte])
             return;
         m_contains[byte] = true;
-        if (m_count < c_lanes)
-            for (std::size_t lane = m_count; lane < c_lanes; ++lane)
-                m_needles[lane] = _mm_set1_epi8(static_cast<char>(byte));
+        for (std::size_t lane = m_count; lane < c_lanes; ++lane)
+            m_needles[lane] = _mm_set1_epi8(static_cast<char>(byte));
         ++m_count;
     }
 
-    /// The first byte of the set in [at, end), or `end`.
+    void Remove(unsigned char byte)
+    {
+        ByteFinder rest;
+        for (std::size_t member = 0; member < m_contains.size(); ++member)
+            if (m_contains[member] && member != byte)
+                rest.Add(static_cast<unsigned char>(member));
+        *this = rest;
+    }
+
+    /// The first member of the set in [at, end), or `end`.
     char const* Find(char const* at, char const* end) const
     {
         if (m_count <= c_lanes && m_count != 0)
-            for (; end - at >= 16; at += 16)
-                if (int const hits = MatchBlock(at); hits != 0)
-                    return at + std::countr_zero(static_cast<unsigned int>(hits));
-        while (at != end && !m_contains[static_cast<unsigned char>(*at)])
+            for (; end - at >= c_blockSize; at += c_blockSize)
+                if (unsigned int const hits = m_count <= 4 ? MatchBlock<4>(at) : MatchBlock<8>(at); hits != 0)
+                    return at + std::countr_zero(hits);
+        while (at != end && !Contains(*at))
+            ++at;
+        return at;
+    }
+
+    /// The first byte in [at, end) that is not in the set, or `end`.
+    char const* FindOther(char const* at, char const* end) const
+    {
+        if (m_count <= 4 && at != end && Contains(*at))
+            for (; end - at >= c_blockSize; at += c_blockSize)
+                if (unsigned int const others = MatchBlock<4>(at) ^ 0xFFFFU; others != 0)
+                    return at + std::countr_zero(others);
+        while (at != end && Contains(*at))
             ++at;
         return at;
     }
 
 private:
-    static constexpr std::size_t c_lanes = 4;
+    static constexpr std::ptrdiff_t c_blockSize = 16;
+    static constexpr std::size_t c_lanes = 8;
 
-    int MatchBlock(char const* at) const
+    template <std::size_t lanes>
+    unsigned int MatchBlock(char const* at) const
     {
         __m128i const block = _mm_loadu_si128(reinterpret_cast<__m128i const*>(at));
-        __m128i const low = _mm_or_si128(_mm_cmpeq_epi8(block, m_needles[0]), _mm_cmpeq_epi8(block, m_needles[1]));
-        __m128i const high = _mm_or_si128(_mm_cmpeq_epi8(block, m_needles[2]), _mm_cmpeq_epi8(block, m_needles[3]));
-        return _mm_movemask_epi8(_mm_or_si128(low, high));
+        __m128i hits = _mm_cmpeq_epi8(block, m_needles[0]);
+        for (std::size_t lane = 1; lane < lanes; ++lane)
+            hits = _mm_or_si128(hits, _mm_cmpeq_epi8(block, m_needles[lane]));
+        return static_cast<unsigned int>(_mm_movemask_epi8(hits));
     }
 
-    __m128i m_needles[c_lanes] {}; // the last byte fills the lanes that are left
+    __m128i m_needles[c_lanes] {}; // the last member fills the lanes that are left
     std::array<bool, 256> m_contains {};
     std::size_t m_count = 0;
 };

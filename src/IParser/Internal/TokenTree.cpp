@@ -66,17 +66,22 @@ void TokenTree::Classify(unsigned char byte)
                          (m_hasCaseInsensitiveTokens && m_roots[ToAsciiLower(byte)] != nullptr);
     if (isStart)
         m_starts.Add(byte);
-    m_isBlank[byte] = IsBlank(byte);
+
+    m_singles[byte] = FindSingleByteToken(byte);
+    if (m_singles[byte] != nullptr && m_singles[byte]->action == StateToken::Action::Skip)
+        m_blanks.Add(byte);
+    else
+        m_blanks.Remove(byte);
 }
 
-// A skip token of one byte that no longer token can take over.
-bool TokenTree::IsBlank(unsigned char byte) const
+// A token of one byte that no longer token can take over.
+StateToken const* TokenTree::FindSingleByteToken(unsigned char byte) const
 {
     Node const* const root = m_roots[byte];
     if (root == nullptr || root->HasChildren() || ToAsciiLower(byte) != byte)
-        return false;
-    StateToken const& token = *root->GetValue(); // a node without children ends a key
-    return token.isCaseSensitive && token.action == StateToken::Action::Skip;
+        return nullptr;
+    StateToken const* const token = root->GetValue(); // not null: a node without children ends a key
+    return token->isCaseSensitive ? token : nullptr;
 }
 
 StateToken* TokenTree::FindLongestPrefix(std::string const& text) const

@@ -37,12 +37,10 @@ public:
     char const* FindTokenStart(char const* at, char const* end) const { return m_starts.Find(at, end); }
 
     /// The first byte in [at, end) that is not a skip token all by itself, or `end`.
-    char const* SkipBlanks(char const* at, char const* end) const
-    {
-        while (at != end && m_isBlank[static_cast<unsigned char>(*at)])
-            ++at;
-        return at;
-    }
+    char const* SkipBlanks(char const* at, char const* end) const { return m_blanks.FindOther(at, end); }
+
+    /// The token that `first` alone makes, whatever follows; null when more of the source has to be seen.
+    StateToken const* GetSingleByteToken(char first) const { return m_singles[static_cast<unsigned char>(first)]; }
 
 private:
     template <class Fold>
@@ -50,13 +48,14 @@ private:
     Node* FindNode(std::string const& key, std::size_t& matched) const;
     void Append(Node* parent, std::size_t depth, StateToken& token);
     void Classify(unsigned char byte);
-    bool IsBlank(unsigned char byte) const;
+    StateToken const* FindSingleByteToken(unsigned char byte) const;
 
     std::array<Node*, 256> m_roots {};
     std::deque<Node> m_nodes;
     std::vector<std::unique_ptr<StateToken>> m_tokens;
     ByteFinder m_starts;
-    std::array<bool, 256> m_isBlank {};
+    ByteFinder m_blanks;
+    std::array<StateToken const*, 256> m_singles{};
     bool m_hasCaseSensitiveTokens = false;
     bool m_hasCaseInsensitiveTokens = false;
 };
