@@ -34,7 +34,8 @@ private:
         return page != nullptr ? *page : MakePage(index);
     }
 
-    Page const& MakePage(std::size_t index)
+    // Cold, so that it is not inlined: a look-up must stay a few instructions.
+    [[gnu::cold]] Page const& MakePage(std::size_t index)
     {
         auto fresh = std::make_unique<Page>();
         m_fill(static_cast<char16_t>(index * c_pageSize), *fresh);

@@ -80,6 +80,9 @@ int CompareText(wchar_t const* a, wchar_t const* b, std::size_t size)
         if (std::wstring_view(a + at, c_blockSize).find(L'\0') != std::wstring_view::npos)
             return 0;
     }
+    // The last units once more together with some that are known to be equal.
+    if (at != 0 && IsBlockEqual(a + size - c_blockSize, b + size - c_blockSize))
+        return 0;
     return CompareUnits(a + at, b + at, size - at);
 }
 

@@ -52,27 +52,33 @@ public:
     wchar_t* Run()
     {
         while (m_end - m_at >= c_blockSize)
-            DecodeBlock();
+        {
+            WidenAscii();
+            while (m_at != m_end && *m_at >= 0x80)
+                DecodeCharacter();
+        }
         while (m_at != m_end)
             DecodeCharacter();
         return m_target;
     }
 
 private:
-    /// Stores sixteen units without asking, keeps the ASCII ones before the first other character, decodes that.
-    void DecodeBlock()
+    /// Takes the bytes before the next other character, or all but the last few: stores sixteen units without asking
+    /// and keeps those before the first other one. Locals, since the stores might else change the fields.
+    void WidenAscii()
     {
-        __m128i const bytes = Platform::LoadBytes(m_at);
-        Platform::StoreWidened(m_target, bytes);
-        unsigned const others = Platform::GetSignBits(bytes);
-        int const count = others == 0 ? static_cast<int>(c_blockSize) : std::countr_zero(others);
-        m_at += count;
-        m_target += count;
-        if (others == 0)
-            return;
-        do
-            DecodeCharacter();
-        while (m_at != m_end && *m_at >= 0x80);
+        unsigned char const* at = m_at;
+        wchar_t* target = m_target;
+        unsigned others = 0;
+        for (; others == 0 && m_end - at >= c_blockSize; at += c_blockSize, target += c_blockSize)
+        {
+            __m128i const bytes = Platform::LoadBytes(at);
+            Platform::StoreWidened(target, bytes);
+            others = Platform::GetSignBits(bytes);
+        }
+        std::ptrdiff_t const surplus = others == 0 ? 0 : c_blockSize - std::countr_zero(others);
+        m_at = at - surplus;
+        m_target = target - surplus;
     }
 
     void DecodeCharacter()
@@ -137,6 +143,8 @@ public:
     std::string Run()
     {
         std::string result;
+        if (m_end - m_at > c_bufferSize) // a shorter text mostly comes in one piece, which knows its size
+            result.reserve(static_cast<std::size_t>(m_end - m_at));
         while (m_at != m_end)
         {
             EncodePiece();
@@ -151,27 +159,35 @@ private:
     void EncodePiece()
     {
         m_target = m_buffer;
-        while (m_end - m_at >= c_blockSize && HasRoom())
-            EncodeBlock();
-        while (m_at != m_end && HasRoom())
+        while (m_end - m_at >= c_blockSize && HasRoom(m_target))
+        {
+            NarrowAscii();
+            while (m_at != m_end && Platform::ToUnsigned(*m_at) >= 0x80 && HasRoom(m_target))
+                EncodeCharacter();
+        }
+        while (m_at != m_end && HasRoom(m_target))
             EncodeCharacter();
     }
 
-    bool HasRoom() const noexcept { return m_buffer + c_bufferSize - m_target >= c_blockSize; }
+    bool HasRoom(char const* target) const noexcept { return m_buffer + c_bufferSize - target >= c_blockSize; }
 
-    /// Stores sixteen bytes without asking, keeps the ASCII ones before the first other character, encodes that.
-    void EncodeBlock()
+    /// The same way as Utf8Decoder::WidenAscii, as far as there is room.
+    void NarrowAscii()
     {
-        __m128i const low = Platform::LoadUnits(m_at);
-        __m128i const high = Platform::LoadUnits(m_at + c_blockSize / 2);
-        Platform::StoreBytes(m_target, _mm_packus_epi16(low, high));
-        __m128i const ascii = _mm_set1_epi16(0x7F);
-        unsigned const count = static_cast<unsigned>(
-            std::countr_one(Platform::GetZeroBits(_mm_andnot_si128(ascii, low), _mm_andnot_si128(ascii, high))));
-        m_at += count;
-        m_target += count;
-        while (m_at != m_end && Platform::ToUnsigned(*m_at) >= 0x80 && HasRoom())
-            EncodeCharacter();
+        wchar_t const* at = m_at;
+        char* target = m_target;
+        unsigned others = 0;
+        for (; others == 0 && m_end - at >= c_blockSize && HasRoom(target); at += c_blockSize, target += c_blockSize)
+        {
+            __m128i const low = Platform::LoadUnits(at);
+            __m128i const high = Platform::LoadUnits(at + c_blockSize / 2);
+            Platform::StoreBytes(target, _mm_packus_epi16(low, high));
+            __m128i const ascii = _mm_set1_epi16(0x7F);
+            others = 0xFFFFU & ~Platform::GetZeroBits(_mm_andnot_si128(ascii, low), _mm_andnot_si128(ascii, high));
+        }
+        std::ptrdiff_t const surplus = others == 0 ? 0 : c_blockSize - std::countr_zero(others);
+        m_at = at - surplus;
+        m_target = target - surplus;
     }
 
     void EncodeCharacter()
