@@ -1,9 +1,127 @@
 #include <Exceptions/ArgumentException.h>
+#include <Exceptions/ContainerChangedException.h>
+#include <Exceptions/EnumOutOfRangeException.h>
+#include <Exceptions/InvalidCastException.h>
+#include <Exceptions/InvalidStateException.h>
+#include <Exceptions/NotImplementedException.h>
+#include <Exceptions/NotSupportedException.h>
+#include <Exceptions/NullPointerException.h>
+#include <Exceptions/UserException.h>
+#include <Exceptions/Win32Exception.h>
+#include <IParser/StateParser.h>
 
 #include <gtest/gtest.h>
 
-TEST(ExceptionFamily, HostCatchesByTypeAndByBase)
+#include <functional>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <typeinfo>
+
+namespace
 {
-    EXPECT_THROW(throw Vek::ArgumentException(), std::exception);
-    EXPECT_STREQ("ArgumentException", Vek::ArgumentException().what());
+
+using namespace Vek;
+using Vek::Framework::IParser::Native::State;
+using Vek::Framework::IParser::Native::StateParser;
+
+// Runs `raise` and answers the text of what it threw, provided that E is its exact type.
+template <class E>
+std::string CaughtText(std::function<void()> const& raise)
+{
+    try
+    {
+        raise();
+    }
+    catch (E const& caught)
+    {
+        return typeid(caught) == typeid(E) ? caught.what() : "a class derived from it";
+    }
+    catch (std::exception const& other)
+    {
+        return std::string("taken for another type: ") + other.what();
+    }
+    return "nothing thrown";
+}
+
+// Throws in the host, from a consumer, so that the exception crosses the library's frames.
+template <class E>
+void ThrowThroughLibrary(E const& exception)
+{
+    StateParser parser;
+    parser.RegisterState(1, StateParser::KeepWhiteSpace)
+        ->RegisterTextConsumer([&exception](std::string const&, State::ResultParams&) { throw exception; });
+    parser.ProcessSource("text");
+}
+
+template <class E>
+void ExpectOneOfTheFamily(E const& exception, std::string const& text)
+{
+    SCOPED_TRACE(text);
+    EXPECT_EQ(text, CaughtText<E>([&] { throw exception; }));
+    EXPECT_EQ(text, CaughtText<E>([&] { ThrowThroughLibrary(exception); }));
+    E assigned = exception;
+    assigned = E(assigned);
+    EXPECT_EQ(text, assigned.what());
+}
+
+// No class of the family is the base of another: a handler takes its own kind only.
+template <class E, class... Family>
+constexpr bool c_standsAlone = ((std::is_same_v<E, Family> || !std::is_base_of_v<E, Family>)&&...);
+
+template <class... Family>
+constexpr bool IsFlat()
+{
+    return (c_standsAlone<Family, Family...> && ...) && (std::is_base_of_v<std::exception, Family> && ...);
+}
+
+static_assert(IsFlat<UserException, ArgumentException, InvalidStateException, NotImplementedException,
+                     NotSupportedException, NullPointerException, InvalidCastException, ContainerChangedException,
+                     EnumOutOfRangeException, Win32Exception>());
+static_assert(std::is_nothrow_copy_constructible_v<UserException> && std::is_nothrow_copy_assignable_v<UserException>);
+
+} // namespace
+
+TEST(ExceptionFamily, EachIsCaughtByItsTypeAndTellsItsText)
+{
+    ExpectOneOfTheFamily(ArgumentException(), "ArgumentException");
+    ExpectOneOfTheFamily(InvalidStateException(), "InvalidStateException");
+    ExpectOneOfTheFamily(NotImplementedException(), "NotImplementedException");
+    ExpectOneOfTheFamily(NotSupportedException(), "NotSupportedException");
+    ExpectOneOfTheFamily(NullPointerException(), "NullPointerException");
+    ExpectOneOfTheFamily(InvalidCastException(), "InvalidCastException");
+    ExpectOneOfTheFamily(ContainerChangedException(), "ContainerChangedException");
+    ExpectOneOfTheFamily(EnumOutOfRangeException(), "EnumOutOfRangeException");
+    ExpectOneOfTheFamily(UserException(), "Unknown exception");
+    ExpectOneOfTheFamily(UserException(nullptr), "Unknown exception");
+    ExpectOneOfTheFamily(UserException(""), "");
+    ExpectOneOfTheFamily(UserException("Ung\374ltig"), "Ung\374ltig");
+    ExpectOneOfTheFamily(Win32Exception(0), "Error code: 0");
+    ExpectOneOfTheFamily(Win32Exception(5), "Error code: 5");
+    ExpectOneOfTheFamily(Win32Exception(4294967295UL), "Error code: 4294967295");
+    ExpectOneOfTheFamily(Win32Exception(static_cast<unsigned long>(-1)), "Error code: 4294967295");
+}
+
+TEST(ExceptionFamily, LibraryThrowsAreCaughtByTypeInTheHost)
+{
+    StateParser parser;
+    EXPECT_EQ("NullPointerException", CaughtText<NullPointerException>([&] { parser.ProcessSource("text"); }));
+    parser.RegisterState(1, StateParser::KeepWhiteSpace);
+    EXPECT_EQ("ArgumentException",
+              CaughtText<ArgumentException>([&] { parser.RegisterState(1, StateParser::KeepWhiteSpace); }));
+}
+
+TEST(UserException, OwnsItsText)
+{
+    std::string source = "first text";
+    std::optional<UserException> original(source.c_str());
+    source.assign(source.size(), '#');
+    UserException const copy = *original;
+    UserException const& alias = *original;
+    *original = alias;
+    UserException assigned("second text");
+    assigned = *original;
+    original.reset();
+    EXPECT_STREQ("first text", copy.what());
+    EXPECT_STREQ("first text", assigned.what());
 }

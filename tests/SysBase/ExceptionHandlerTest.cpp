@@ -1,0 +1,177 @@
+#include <SysBase/ExceptionHandler.h>
+#include <SysBase/Faults.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <atomic>
+#include <cfenv>
+#include <memory>
+#include <stdexcept>
+#include <thread>
+
+namespace
+{
+
+using VekSysBase::ExceptionHandler;
+
+bool Execute(std::function<void()> const& action)
+{
+    return ExceptionHandler::ExecuteSafe(action, L"a", L"b", L"c");
+}
+
+/// Thrown where a fault or its own destructor makes the runtime lose it. Noting the address keeps the lost memory
+/// reachable, so that only other leaks are reported.
+class LostException
+{
+public:
+    LostException() { s_lost[s_count++ % s_lost.size()] = this; }
+
+private:
+    static inline std::array<void const*, 256> s_lost;
+    static inline std::atomic<std::size_t> s_count = 0;
+};
+
+class ThrowingDestructor : LostException
+{
+public:
+    ~ThrowingDestructor() noexcept(false) { throw ThrowingDestructor(); }
+};
+
+struct FaultingDestructor
+{
+    ~FaultingDestructor() { Faults::WriteNull(); }
+};
+
+struct Row
+{
+    char const* what;
+    void (*action)();
+};
+
+Row const c_failures[] = {
+    { "exception of the standard library", [] { throw std::runtime_error("failed"); } },
+    { "exception of no class", [] { throw 5; } },
+    { "exception whose destructor throws", [] { throw ThrowingDestructor(); } },
+    { "read through null", Faults::ReadNull },
+    { "write through null", Faults::WriteNull },
+    { "call of null", Faults::CallNull },
+    { "division by zero", Faults::DivideByZero },
+    { "quotient out of range", Faults::DivideBeyondRange },
+    { "illegal instruction", Faults::IllegalInstruction },
+    { "breakpoint", Faults::Breakpoint },
+    { "fault in a handler",
+      []
+      {
+          try
+          {
+              throw LostException();
+          }
+          catch (LostException const&)
+          {
+              Faults::WriteNull();
+          }
+      } },
+    { "fault in a destructor during unwinding",
+      []
+      {
+          FaultingDestructor const faulting;
+          throw LostException();
+      } },
+    { "fault in a function that must not throw", []() noexcept { Faults::DivideByZero(); } },
+};
+
+// Every failure in every surrounding: a thread must be as good as new after each.
+void ExpectEveryFailureCaught()
+{
+    for (Row const& row : c_failures)
+    {
+        SCOPED_TRACE(row.what);
+        for (int repetition = 0; repetition < 3; ++repetition)
+        {
+            EXPECT_FALSE(Execute(row.action));
+            EXPECT_EQ(0, std::uncaught_exceptions());
+            EXPECT_EQ(nullptr, std::current_exception());
+        }
+        EXPECT_TRUE(Execute([&] { EXPECT_FALSE(Execute(row.action)); })) << "nested";
+        EXPECT_FALSE(Execute(
+            [&]
+            {
+                EXPECT_FALSE(Execute(row.action));
+                Faults::ReadNull();
+            }))
+            << "outer fault after an inner failure";
+    }
+}
+
+} // namespace
+
+TEST(ExceptionHandler, ActionThatReturns)
+{
+    int calls = 0;
+    EXPECT_TRUE(Execute([&] { ++calls; }));
+    EXPECT_EQ(1, calls);
+    EXPECT_TRUE(Execute(std::function<void()>())) << "empty";
+    EXPECT_TRUE(Execute(
+        []
+        {
+            try
+            {
+                throw 5;
+            }
+            catch (int)
+            {
+            }
+        }))
+        << "handled inside";
+}
+
+TEST(ExceptionHandler, EveryFailureOnEveryThread)
+{
+    ExpectEveryFailureCaught();
+    std::thread other(ExpectEveryFailureCaught);
+    std::thread(ExpectEveryFailureCaught).join();
+    other.join();
+}
+
+TEST(ExceptionHandler, ExceptionRunsDestructorsOfTheAction)
+{
+    auto const held = std::make_shared<int>(1);
+    EXPECT_FALSE(Execute(
+        [copy = held]
+        {
+            auto const local = copy;
+            throw std::runtime_error("failed");
+        }));
+    EXPECT_EQ(1, held.use_count());
+}
+
+TEST(ExceptionHandler, FaultLeavesWhatTheActionReachedAndTheHandlerAround)
+{
+    int steps = 0;
+    try
+    {
+        throw std::runtime_error("outer");
+    }
+    catch (std::runtime_error const&)
+    {
+        EXPECT_FALSE(Execute(
+            [&]
+            {
+                ++steps;
+                Faults::WriteNull();
+                ++steps;
+            }));
+        EXPECT_THROW(throw, std::runtime_error) << "the caller's own exception is still the current one";
+    }
+    EXPECT_EQ(1, steps);
+}
+
+TEST(ExceptionHandler, FaultKeepsTheRoundingMode)
+{
+    std::fesetround(FE_UPWARD);
+    EXPECT_FALSE(Execute(Faults::ReadNull));
+    int const mode = std::fegetround();
+    std::fesetround(FE_TONEAREST);
+    EXPECT_EQ(FE_UPWARD, mode);
+}

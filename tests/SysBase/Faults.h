@@ -1,0 +1,66 @@
+#pragma once
+
+#include <climits>
+
+// Code that faults for real. The sanitizers would report most of it first.
+#if defined(__GNUC__)
+#    define FAULTS_ON_PURPOSE __attribute__((noinline, no_sanitize("undefined", "address")))
+#else
+#    define FAULTS_ON_PURPOSE __declspec(noinline)
+#endif
+
+namespace Faults
+{
+
+inline int volatile g_zero = 0; // volatile: a constant would let the compiler drop the division
+inline int volatile g_result = 0;
+inline int* volatile g_nullValue = nullptr;
+inline void (*volatile g_nullFunction)() = nullptr;
+
+FAULTS_ON_PURPOSE inline void ReadNull()
+{
+    g_result = *static_cast<int volatile*>(g_nullValue);
+}
+
+FAULTS_ON_PURPOSE inline void WriteNull()
+{
+    *static_cast<int volatile*>(g_nullValue) = 1;
+}
+
+FAULTS_ON_PURPOSE inline void CallNull()
+{
+    g_nullFunction();
+}
+
+FAULTS_ON_PURPOSE inline void DivideByZero()
+{
+    int const volatile dividend = 7;
+    g_result = dividend / g_zero;
+}
+
+FAULTS_ON_PURPOSE inline void DivideBeyondRange()
+{
+    int const volatile dividend = INT_MIN;
+    int const volatile divisor = -1;
+    g_result = dividend / divisor;
+}
+
+FAULTS_ON_PURPOSE inline void IllegalInstruction()
+{
+#if defined(__GNUC__)
+    asm volatile("ud2");
+#else
+    __ud2();
+#endif
+}
+
+FAULTS_ON_PURPOSE inline void Breakpoint()
+{
+#if defined(__GNUC__)
+    asm volatile("int3");
+#else
+    __debugbreak();
+#endif
+}
+
+} // namespace Faults
