@@ -133,7 +133,7 @@ TEST_F(ExceptionHandlerDeathTest, HandlerFromBeforeGetsWhatNoGuardTakes)
     auto const once = []
     {
         Handle(
-            SIGSEGV, [](int) {}, SA_RESETHAND);
+            SIGSEGV, [](int) {}, static_cast<int>(SA_RESETHAND));
         UseGuard();
         Faults::WriteNull(); // handled once without effect, then deadly
     };

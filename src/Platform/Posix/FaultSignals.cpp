@@ -27,7 +27,7 @@ bool Install(FaultHandler handler)
 void CallPrevious(int signal, siginfo_t* info, void* context)
 {
     struct sigaction const previous = s_previous[signal];
-    if ((previous.sa_flags & SA_RESETHAND) != 0)
+    if ((previous.sa_flags & static_cast<int>(SA_RESETHAND)) != 0)
         s_previous[signal].sa_handler = SIG_DFL;
     sigset_t blocked = previous.sa_mask;
     if ((previous.sa_flags & SA_NODEFER) == 0)
