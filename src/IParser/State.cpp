@@ -32,6 +32,7 @@ State::State(unsigned int id, unsigned int const& activeRuns)
       m_textConsumer(std::make_shared<TextConsumer const>()),
       m_textViewConsumer(std::make_shared<TextViewConsumer const>()),
       m_numberConsumer(std::make_shared<NumberConsumer const>()),
+      m_bulkConsumer(std::make_shared<BulkConsumer const>()),
       m_endOfSourceConsumer(std::make_shared<EndOfSourceConsumer const>()),
       m_tokens(std::make_unique<Internal::TokenTree>())
 {
@@ -69,6 +70,11 @@ void State::RegisterTextViewConsumer(TextViewConsumer consumer)
 void State::RegisterNumberConsumer(NumberConsumer consumer)
 {
     Replace(m_numberConsumer, std::move(consumer));
+}
+
+void State::RegisterBulkConsumer(BulkConsumer consumer)
+{
+    Replace(m_bulkConsumer, std::move(consumer));
 }
 
 void State::RegisterEndOfSourceConsumer(EndOfSourceConsumer consumer)

@@ -50,6 +50,7 @@ public:
     using NumberConsumer = std::function<void(double number, ResultParams&)>;
     using EndOfSourceConsumer = std::function<void(ResultParams&)>;
     using TokenConsumer = std::function<void(ResultParams&)>;
+    using BulkConsumer = std::function<char const*(char const* begin, char const* end, ResultParams&)>;
 
     State(State const&) = delete;
     State& operator=(State const&) = delete;
@@ -68,6 +69,12 @@ public:
     void RegisterNumberConsumer(NumberConsumer consumer);
     /// Replaces the consumer that runs when the source ends in this state.
     void RegisterEndOfSourceConsumer(EndOfSourceConsumer consumer);
+
+    /// Replaces the consumer that may take a piece of the source itself, for hosts that know a short way for common
+    /// input. Before a token is looked for, and while no text is pending, it is shown what of the source is in memory,
+    /// and answers the end of what it took, `begin` for nothing; the rest goes through recognition. `nextStateId` is
+    /// the state there, also when it ends the run; the result names the first character it did not take.
+    void RegisterBulkConsumer(BulkConsumer consumer);
 
     bool HasTextConsumer() const noexcept;
     bool HasNumberConsumer() const noexcept;
@@ -114,6 +121,7 @@ private:
     std::shared_ptr<TextConsumer const> m_textConsumer;
     std::shared_ptr<TextViewConsumer const> m_textViewConsumer;
     std::shared_ptr<NumberConsumer const> m_numberConsumer;
+    std::shared_ptr<BulkConsumer const> m_bulkConsumer;
     std::shared_ptr<EndOfSourceConsumer const> m_endOfSourceConsumer;
     std::vector<std::shared_ptr<void const>> m_replacedConsumers; // kept while one of them may be running
     bool m_takesText = false;                                     // in one of the three ways

@@ -14,9 +14,11 @@ using Internal::StateToken;
 
 ParserResult StateProcessor::Process()
 {
-    while (FindNextToken())
+    while (ConsumeInBulk() && FindNextToken())
         if (!ProcessToken())
             return GetResult();
+    if (m_isEnded)
+        return GetResult();
 
     char const* const end = m_source.GetEnd();
     if (ConsumeText(end))
@@ -32,11 +34,11 @@ ParserResult StateProcessor::Process()
 
 bool StateProcessor::FindNextToken()
 {
+    if (!m_isTextAside)
+        PassTokensWithoutConsumer();
+
     Internal::TokenTree const& tokens = *m_state->m_tokens;
     char const* const end = m_source.GetEnd();
-    if (!m_isTextAside)
-        m_textStart = tokens.SkipBlanks(m_textStart, end);
-
     char const* const at = tokens.FindTokenStart(m_textStart, end);
     m_token = at == end ? nullptr : tokens.GetSingleByteToken(*at);
     if (m_token == nullptr)
@@ -44,6 +46,26 @@ bool StateProcessor::FindNextToken()
     m_tokenStart = at;
     m_tokenLength = 1;
     return true;
+}
+
+// The short way over one-byte tokens that follow each other without text between them.
+void StateProcessor::PassTokensWithoutConsumer()
+{
+    char const* const end = m_source.GetEnd();
+    while (m_textStart != end)
+    {
+        Internal::TokenTree const& tokens = *m_state->m_tokens;
+        StateToken const* const token = tokens.GetSingleByteToken(*m_textStart);
+        if (token == nullptr || token->action == StateToken::Action::Call)
+            return;
+        if (token->action == StateToken::Action::Transition)
+        {
+            SwitchState(token->nextStateId);
+            ++m_textStart;
+        }
+        else
+            m_textStart = tokens.SkipBlanks(m_textStart, end);
+    }
 }
 
 bool StateProcessor::FindNextTokenFrom(char const* at)
@@ -133,6 +155,17 @@ void StateProcessor::SetPendingTextAside(char const* end)
 
 // Consumption.
 
+bool StateProcessor::ConsumeInBulk()
+{
+    State::BulkConsumer const& consumer = *m_state->m_bulkConsumer;
+    if (!consumer || m_isTextAside || m_textStart == m_source.GetEnd())
+        return true;
+    State::ResultParams params { m_state->m_id, false, false, GetOffset() };
+    m_textStart = consumer(m_textStart, m_source.GetEnd(), params);
+    SwitchState(params.nextStateId);
+    return IsGoingOn(params);
+}
+
 bool StateProcessor::ProcessToken()
 {
     if (m_textStart != m_tokenStart || m_isTextAside)
@@ -205,15 +238,18 @@ bool StateProcessor::InvokeConsumer(Call const& call)
 {
     State::ResultParams params { m_state->m_id, false, false, GetOffset() };
     call(params);
-    if (params.stop)
+    if (!IsGoingOn(params))
         return false;
-    if (params.isSyntaxError)
-    {
-        m_code = ParserResult::InvalidSyntax;
-        return false;
-    }
     SwitchState(params.nextStateId);
     return true;
+}
+
+bool StateProcessor::IsGoingOn(State::ResultParams const& params)
+{
+    if (params.isSyntaxError && !params.stop)
+        m_code = ParserResult::InvalidSyntax;
+    m_isEnded = params.stop || params.isSyntaxError;
+    return !m_isEnded;
 }
 
 void StateProcessor::SwitchState(unsigned int id)

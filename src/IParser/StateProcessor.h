@@ -33,6 +33,7 @@ public:
 
 private:
     bool FindNextToken();
+    void PassTokensWithoutConsumer();
     bool FindNextTokenFrom(char const* at);
     Internal::StateToken* MatchToken(char const*& at);
     template <bool isCaseSensitive>
@@ -40,6 +41,7 @@ private:
     bool ReadOn(char const*& at);
     void SetPendingTextAside(char const* end);
 
+    bool ConsumeInBulk();
     bool ProcessToken();
     bool ConsumeToken();
     bool ConsumeText(char const* end);
@@ -47,6 +49,7 @@ private:
     std::string const& GetPendingText(char const* end);
     template <class Call>
     bool InvokeConsumer(Call const& call);
+    bool IsGoingOn(State::ResultParams const& params);
     void SwitchState(unsigned int id);
 
     void MovePositionInStream(char const* end);
@@ -68,6 +71,7 @@ private:
     Internal::StateToken const* m_token = nullptr;
     std::size_t m_tokenLength = 0;
 
+    bool m_isEnded = false; // by a consumer
     ParserResult::ResultCode m_code = ParserResult::Ok;
 };
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <bit>
 #include <cstddef>
+#include <string_view>
 
 #include <emmintrin.h>
 
@@ -13,6 +14,13 @@ namespace Vek::Framework::IParser::Native::Internal
 class ByteFinder
 {
 public:
+    ByteFinder() = default;
+    explicit ByteFinder(std::string_view members)
+    {
+        for (char const member : members)
+            Add(static_cast<unsigned char>(member));
+    }
+
     bool Contains(char byte) const { return m_contains[static_cast<unsigned char>(byte)]; }
 
     void Add(unsigned char byte)

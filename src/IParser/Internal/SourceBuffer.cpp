@@ -54,10 +54,10 @@ bool SourceBuffer::ReadOn()
 {
     std::size_t const count = m_isAtEnd || !m_stream->good() ? 0 : ReadChunk();
     m_end += count;
-    if (count < m_chunk)
+    if (count == 0 && !m_isAtEnd)
     {
         m_isAtEnd = true;
-        if (m_stream != nullptr && m_stream->good())
+        if (m_stream->good())
             m_stream->setstate(std::ios_base::eofbit);
     }
     return count != 0;

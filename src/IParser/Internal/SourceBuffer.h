@@ -33,6 +33,7 @@ public:
     char const* MoveToFront(char const* keep);
 
     /// Appends what the stream gives next; false at its end, from then on always. The buffer must not be full.
+    /// A stream buffer may hand out less than a block at a time; it is at its end when it hands out nothing.
     /// The end sets eofbit and not failbit: hosts let streams throw for failures, and the end of a source is none.
     bool ReadOn();
 

@@ -55,7 +55,7 @@ private:
     std::vector<std::unique_ptr<StateToken>> m_tokens;
     ByteFinder m_starts;
     ByteFinder m_blanks;
-    std::array<StateToken const*, 256> m_singles{};
+    std::array<StateToken const*, 256> m_singles {};
     bool m_hasCaseSensitiveTokens = false;
     bool m_hasCaseInsensitiveTokens = false;
 };

@@ -1,0 +1,37 @@
+#include <IXMLStreamer/XMLElement.h>
+
+#include <utility>
+
+namespace Vek::Framework::IXMLStreamer::Native
+{
+
+XMLElement::XMLElement(std::string const& name) : m_name(name)
+{
+}
+
+XMLElement::XMLElement(XMLElement const& other) = default;
+XMLElement& XMLElement::operator=(XMLElement const& other) = default;
+XMLElement::~XMLElement() = default;
+
+std::string const& XMLElement::GetElementName() const noexcept
+{
+    return m_name;
+}
+
+void XMLElement::RegisterAttribute(unsigned int version, std::string const& name, AttributeHandler handler)
+{
+    m_attributes.FindOrAdd(name).SetFunction(version, std::move(handler));
+}
+
+void XMLElement::RegisterUnspecifiedAttributes(unsigned int version, AttributeHandler handler)
+{
+    m_unspecifiedAttributes.SetFunction(version, std::move(handler));
+}
+
+XMLElement::AttributeHandlers const& XMLElement::FindAttribute(std::string_view name) const
+{
+    AttributeHandlers const* const own = m_attributes.Find(name);
+    return own == nullptr ? m_unspecifiedAttributes : *own;
+}
+
+} // namespace Vek::Framework::IXMLStreamer::Native

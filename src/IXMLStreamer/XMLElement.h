@@ -1,0 +1,57 @@
+#pragma once
+
+#include <IXMLStreamer/Internal/NameTable.h>
+#include <IXMLStreamer/VersionedFunctionCollection.h>
+#include <VekApi.h>
+
+#include <string>
+#include <string_view>
+
+namespace Vek::Framework::IXMLStreamer::Native
+{
+
+/// The description of an element that a document may hold: its name, and what is to be done with its attributes.
+///
+/// Made by XMLStreamer and XMLStructureElement, which own it; references stay valid as long as the reader and the root.
+/// Handlers may register and replace handlers of any element while they run: one that is being called stays alive until
+/// it returns, and what is registered counts from the next attribute, content or tag on.
+class VEK_API XMLElement
+{
+public:
+    enum Type : unsigned int
+    {
+        Structure = 0, ///< holds elements
+        Content = 1    ///< holds text
+    };
+
+    XMLElement(XMLElement const& other);
+    XMLElement& operator=(XMLElement const& other);
+    virtual ~XMLElement();
+
+    virtual Type GetElementType() const = 0;
+
+    std::string const& GetElementName() const noexcept;
+
+    /// The handler of the attribute `name` from format version `version` on, in place of one for the same version.
+    void RegisterAttribute(unsigned int version, std::string const& name, AttributeHandler handler);
+
+    /// The handler of all attributes without a handler of their own. An attribute that is registered, if only for later
+    /// versions, does not come here.
+    void RegisterUnspecifiedAttributes(unsigned int version, AttributeHandler handler);
+
+protected:
+    explicit XMLElement(std::string const& name);
+
+private:
+    friend class XMLStreamer;
+
+    using AttributeHandlers = VersionedFunctionCollection<AttributeHandler>;
+
+    AttributeHandlers const& FindAttribute(std::string_view name) const;
+
+    std::string m_name;
+    Internal::NameTable<AttributeHandlers> m_attributes;
+    AttributeHandlers m_unspecifiedAttributes;
+};
+
+} // namespace Vek::Framework::IXMLStreamer::Native

@@ -1,0 +1,218 @@
+#include <IXMLStreamer/XMLStreamerReader.h>
+
+#include <IXMLStreamer/Internal/ExpectedSymbols.h>
+#include <IXMLStreamer/Internal/ReaderStates.h>
+#include <IXMLStreamer/XMLCodes.h>
+
+#include <algorithm>
+
+// The consumers of the reader's states, in the order of a document.
+
+namespace Vek::Framework::IXMLStreamer::Native
+{
+
+using namespace Internal;
+
+void XMLStreamer::Reader::BeginComment(Params& params)
+{
+    m_stateBeforeComment = params.nextStateId;
+    params.nextStateId = Comment;
+}
+
+void XMLStreamer::Reader::EndComment(Params& params)
+{
+    params.nextStateId = m_stateBeforeComment;
+}
+
+void XMLStreamer::Reader::BeginEndTag(Params& params)
+{
+    if (m_openElements.IsEmpty())
+        RaiseError(StreamerError::InvalidSyntax, c_elementStart, params);
+    else
+        params.nextStateId = EndTagName;
+}
+
+void XMLStreamer::Reader::RefuseMissingElementName(Params& params)
+{
+    RaiseError(StreamerError::MissingElementName, c_elementName, params);
+}
+
+void XMLStreamer::Reader::BeginElement(std::string_view name, Params& params)
+{
+    if (m_openElements.IsEmpty() && name != m_root->GetElementName())
+        return RaiseError(StreamerError::InvalidRootElement, m_root->GetElementName(), params);
+
+    ElementDescription const description = FindDescription(name);
+    m_openElements.Push(name, description);
+    params.nextStateId = StartTag;
+    if (description.IsEmpty())
+        RequireAgreement(m_onUnknownElement.CallFunction(m_version, std::string(name)), params);
+}
+
+ElementDescription XMLStreamer::Reader::FindDescription(std::string_view name) const
+{
+    if (m_openElements.IsEmpty())
+        return { m_root.get(), nullptr };
+    XMLStructureElement const* const parent = m_openElements.GetDescription().structure;
+    XMLElement const* const child = parent == nullptr ? nullptr : parent->FindChildElement(name);
+    if (child == nullptr)
+        return {};
+    if (child->GetElementType() == XMLElement::Structure)
+        return { static_cast<XMLStructureElement const*>(child), nullptr };
+    return { nullptr, static_cast<XMLContentElement const*>(child) };
+}
+
+void XMLStreamer::Reader::SetAttributeName(std::string_view name, Params& params)
+{
+    m_attributeName = name;
+    m_value.clear();
+    params.nextStateId = AttributeName;
+}
+
+void XMLStreamer::Reader::RefuseMissingAttributeName(Params& params)
+{
+    RaiseError(StreamerError::MissingAttributeName, c_attributeName, params);
+}
+
+void XMLStreamer::Reader::AppendValue(std::string_view text, Params&)
+{
+    m_value += text;
+}
+
+void XMLStreamer::Reader::EndAttribute(Params& params)
+{
+    params.nextStateId = StartTag;
+    RequireAgreement(CallAttributeHandler(), params);
+}
+
+void XMLStreamer::Reader::EndStartTag(Params& params)
+{
+    ElementDescription const& description = m_openElements.GetDescription();
+    if (description.IsEmpty())
+        params.nextStateId = Undescribed;
+    else
+        params.nextStateId = description.structure != nullptr ? ElementLevel : Content;
+    m_value.clear();
+    RequireAgreement(CallBeginHandler(), params);
+}
+
+void XMLStreamer::Reader::EndEmptyElement(Params& params)
+{
+    params.nextStateId = ElementLevel;
+    bool const isAgreed = CallBeginHandler() && CallContentHandler(std::string()) && CallEndHandler();
+    RequireAgreement(isAgreed, params);
+    if (isAgreed)
+        m_openElements.Pop();
+}
+
+void XMLStreamer::Reader::EndContent(Params& params)
+{
+    params.nextStateId = ContentEnd;
+    RequireAgreement(CallContentHandler(m_value), params);
+}
+
+void XMLStreamer::Reader::CheckEndTagName(std::string_view name, Params& params)
+{
+    params.nextStateId = EndTagEnd;
+    if (name != m_openElements.GetName())
+        RaiseError(StreamerError::InvalidSyntax, std::string(m_openElements.GetName()), params);
+}
+
+void XMLStreamer::Reader::EndElement(Params& params)
+{
+    bool const isAgreed = CallEndHandler();
+    RequireAgreement(isAgreed, params);
+    if (!isAgreed)
+        return;
+    m_openElements.Pop();
+    params.nextStateId = m_openElements.IsEmpty() ? AfterRoot : ElementLevel;
+}
+
+// Handlers of the innermost open element; true where there is none to ask.
+
+bool XMLStreamer::Reader::CallAttributeHandler() const
+{
+    ElementDescription const& description = m_openElements.GetDescription();
+    if (XMLElement const* const element = description.GetElement(); element != nullptr)
+    {
+        bool isFound = false;
+        bool const isAgreed =
+            element->FindAttribute(m_attributeName).CallFunction(isFound, m_version, m_attributeName, m_value);
+        if (isFound)
+            return isAgreed;
+    }
+    return m_onUnknownAttribute.CallFunction(m_version, m_attributeName, m_value);
+}
+
+bool XMLStreamer::Reader::CallBeginHandler() const
+{
+    XMLStructureElement const* const structure = m_openElements.GetDescription().structure;
+    return structure == nullptr || structure->m_onBegin.CallFunction(m_version, *structure);
+}
+
+bool XMLStreamer::Reader::CallContentHandler(std::string const& content) const
+{
+    XMLContentElement const* const element = m_openElements.GetDescription().content;
+    return element == nullptr || element->m_onDo.CallFunction(m_version, *element, content);
+}
+
+bool XMLStreamer::Reader::CallEndHandler() const
+{
+    XMLStructureElement const* const structure = m_openElements.GetDescription().structure;
+    return structure == nullptr || structure->m_onEnd.CallFunction(m_version, *structure);
+}
+
+// Codes.
+
+void XMLStreamer::Reader::BeginCode(Params& params)
+{
+    m_stateBeforeCode = params.nextStateId;
+    m_code.clear();
+    params.nextStateId = NamedCode;
+}
+
+void XMLStreamer::Reader::BeginNumericCode(Params& params)
+{
+    BeginCode(params);
+    params.nextStateId = NumericCode;
+}
+
+void XMLStreamer::Reader::RefuseHexadecimalCode(Params& params)
+{
+    RaiseError(StreamerError::HexadecimalCodeNotSupported, "", params);
+}
+
+void XMLStreamer::Reader::SetCode(std::string_view code, Params&)
+{
+    m_code = code;
+}
+
+void XMLStreamer::Reader::EndCode(Params& params)
+{
+    char symbol = 0;
+    if (XMLCodes::FindSymbol(m_code, symbol))
+        AppendDecoded(symbol, params);
+    else
+        RaiseError(StreamerError::InvalidCode, c_namedCode, params);
+}
+
+void XMLStreamer::Reader::EndNumericCode(Params& params)
+{
+    constexpr unsigned int c_end = 256;
+    unsigned int number = 0;
+    for (char const digit : m_code)
+        number = digit >= '0' && digit <= '9' ? std::min(number * 10 + static_cast<unsigned int>(digit - '0'), c_end)
+                                              : c_end;
+    if (number > 0 && number < c_end)
+        AppendDecoded(static_cast<char>(number), params);
+    else
+        RaiseError(StreamerError::InvalidCode, c_numericCode, params);
+}
+
+void XMLStreamer::Reader::AppendDecoded(char symbol, Params& params)
+{
+    m_value += symbol;
+    params.nextStateId = m_stateBeforeCode;
+}
+
+} // namespace Vek::Framework::IXMLStreamer::Native

@@ -1,0 +1,65 @@
+#include <IXMLStreamer/XMLStructureElement.h>
+
+#include <IXMLStreamer/StreamerError.h>
+#include <IXMLStreamer/XMLContentElement.h>
+
+#include <utility>
+
+namespace Vek::Framework::IXMLStreamer::Native
+{
+
+XMLStructureElement::XMLStructureElement(StreamerError& error, std::string const& name)
+    : XMLElement(name),
+      m_error(error)
+{
+}
+
+XMLStructureElement::~XMLStructureElement() = default;
+
+XMLElement::Type XMLStructureElement::GetElementType() const
+{
+    return Structure;
+}
+
+XMLContentElement& XMLStructureElement::CreateContentElement(std::string const& name)
+{
+    std::unique_ptr<XMLContentElement> element(new XMLContentElement(m_error, name));
+    XMLContentElement& created = *element;
+    InsertElement(std::move(element));
+    return created;
+}
+
+XMLStructureElement& XMLStructureElement::CreateStructureElement(std::string const& name)
+{
+    std::unique_ptr<XMLStructureElement> element(new XMLStructureElement(m_error, name));
+    XMLStructureElement& created = *element;
+    InsertElement(std::move(element));
+    return created;
+}
+
+void XMLStructureElement::InsertElement(std::unique_ptr<XMLElement> element)
+{
+    XMLElement& inserted = *m_ownedElements.emplace_back(std::move(element));
+    if (m_children.Find(inserted.GetElementName()) == nullptr)
+        m_children.Add(inserted.GetElementName()) = &inserted;
+    else if (m_error.GetErrorCode() == StreamerError::Ok)
+        m_error.RaiseError(StreamerError::DuplicateName, -1, -1, "");
+}
+
+XMLElement const* XMLStructureElement::FindChildElement(std::string_view name) const
+{
+    XMLElement* const* const child = m_children.Find(name);
+    return child == nullptr ? nullptr : *child;
+}
+
+void XMLStructureElement::SetOnBegin(unsigned int version, StructureHandler handler)
+{
+    m_onBegin.SetFunction(version, std::move(handler));
+}
+
+void XMLStructureElement::SetOnEnd(unsigned int version, StructureHandler handler)
+{
+    m_onEnd.SetFunction(version, std::move(handler));
+}
+
+} // namespace Vek::Framework::IXMLStreamer::Native

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <IXMLStreamer/XMLElement.h>
+
+#include <memory>
+#include <vector>
+
+namespace Vek::Framework::IXMLStreamer::Native
+{
+
+class StreamerError;
+class XMLContentElement;
+
+/// The description of an element that holds elements. Owns their descriptions, and cannot be copied for that reason.
+class VEK_API XMLStructureElement : public XMLElement
+{
+public:
+    XMLStructureElement(XMLStructureElement const&) = delete;
+    XMLStructureElement& operator=(XMLStructureElement const&) = delete;
+    ~XMLStructureElement() override;
+
+    /// Structure.
+    Type GetElementType() const override;
+
+    /// Describe a child. A name that a child has already is a registration error: the reader's error becomes
+    /// DuplicateName, and the new description is kept, so that the reference stays valid, but never found.
+    XMLContentElement& CreateContentElement(std::string const& name);
+    XMLStructureElement& CreateStructureElement(std::string const& name);
+
+    /// The handler that runs when the start tag with all its attributes has been read, from `version` on.
+    void SetOnBegin(unsigned int version, StructureHandler handler);
+    /// The handler that runs when the end tag has been read, from `version` on.
+    void SetOnEnd(unsigned int version, StructureHandler handler);
+
+protected:
+    /// `error` is the reader's and outlives this element.
+    XMLStructureElement(StreamerError& error, std::string const& name);
+
+private:
+    friend class XMLStreamer;
+
+    void InsertElement(std::unique_ptr<XMLElement> element);
+    XMLElement const* FindChildElement(std::string_view name) const;
+
+    StreamerError& m_error;
+    Internal::NameTable<XMLElement*> m_children;
+    std::vector<std::unique_ptr<XMLElement>> m_ownedElements; // refused ones included
+    VersionedFunctionCollection<StructureHandler> m_onBegin;
+    VersionedFunctionCollection<StructureHandler> m_onEnd;
+};
+
+} // namespace Vek::Framework::IXMLStreamer::Native

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <IXMLStreamer/XMLContentElement.h>
+#include <IXMLStreamer/XMLStreamer.h>
+
+#include <sstream>
+#include <string>
+
+namespace XMLStreamerTests
+{
+
+using namespace Vek::Framework::IXMLStreamer::Native;
+
+/// A reader of documents <settings><title/><printer name=""><port/></printer></settings> that writes down what its
+/// handlers are told. A handler whose value or name holds "refuse" answers false.
+class TracingReader
+{
+public:
+    TracingReader()
+    {
+        XMLStructureElement& root = streamer.CreateRootStructureElement("settings");
+        Describe(root);
+        DescribeContent(root.CreateContentElement("title"));
+        XMLStructureElement& printer = root.CreateStructureElement("printer");
+        Describe(printer);
+        printer.RegisterAttribute(1, "name",
+                                  [this](std::string const& name, std::string const& value)
+                                  { return Note("@" + name + "=" + value); });
+        DescribeContent(printer.CreateContentElement("port"));
+        streamer.SetOnUnknownElement(1, [this](std::string const& name) { return Note("?" + name); });
+        streamer.SetOnUnknownAttribute(1, [this](std::string const& name, std::string const& value)
+                                       { return Note("?@" + name + "=" + value); });
+        streamer.SetVersion(1);
+    }
+
+    bool Read(std::string const& document)
+    {
+        trace.clear();
+        std::istringstream stream(document);
+        return streamer.ProcessSource(stream);
+    }
+
+    /// Code, expected symbol, line and column of the error, line and column of the parser, path, trace.
+    std::string Describe(bool isRead) const
+    {
+        StreamerError const& error = streamer.GetError();
+        std::ostringstream text;
+        if (isRead != (error.GetErrorCode() == StreamerError::Ok))
+            text << "result and code differ ";
+        text << static_cast<int>(error.GetErrorCode()) << " [" << error.GetExpectedSymbol() << "] " << error.GetLine()
+             << ':' << error.GetColumn() << ' ' << streamer.GetParserResult().line << ':'
+             << streamer.GetParserResult().column << ' ' << streamer.GetOpenElementPath() << ' ' << trace;
+        return text.str();
+    }
+
+    XMLStreamer streamer;
+    std::string trace;
+
+private:
+    bool Note(std::string const& event)
+    {
+        trace += event + ";";
+        return event.find("refuse") == std::string::npos;
+    }
+
+    void Describe(XMLStructureElement& element)
+    {
+        element.SetOnBegin(1, [this](XMLStructureElement const& e) { return Note("<" + e.GetElementName()); });
+        element.SetOnEnd(1, [this](XMLStructureElement const& e) { return Note(">" + e.GetElementName()); });
+    }
+
+    void DescribeContent(XMLContentElement& element)
+    {
+        element.SetOnDo(1, [this](XMLContentElement const& e, std::string const& content)
+                        { return Note(e.GetElementName() + "=" + content); });
+        element.RegisterAttribute(1, "unit",
+                                  [this](std::string const& name, std::string const& value)
+                                  { return Note("@" + name + "=" + value); });
+    }
+};
+
+} // namespace XMLStreamerTests

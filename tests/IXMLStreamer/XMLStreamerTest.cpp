@@ -1,0 +1,175 @@
+#include "XMLStreamerFixture.h"
+
+#include <Exceptions/InvalidStateException.h>
+#include <IXMLStreamer/Internal/ParserErrorTable.h>
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+using namespace XMLStreamerTests;
+
+namespace
+{
+
+char const* const c_declaration = "<?xml version=\"1.0\"?>";
+
+std::string Nest(std::size_t depth)
+{
+    std::string document = c_declaration;
+    document += "<settings>";
+    for (std::size_t i = 0; i < depth; ++i)
+        document += "<x>";
+    for (std::size_t i = 0; i < depth; ++i)
+        document += "</x>";
+    return document + "</settings>";
+}
+
+} // namespace
+
+TEST(XMLStreamer, WithoutRootNothingIsRead)
+{
+    XMLStreamer streamer;
+    std::istringstream stream(std::string(c_declaration) + "<settings></settings>");
+    EXPECT_FALSE(streamer.ProcessSource(stream));
+    EXPECT_EQ(StreamerError::RootNotRegistered, streamer.GetError().GetErrorCode());
+    EXPECT_EQ(-1, streamer.GetError().GetLine());
+    EXPECT_EQ('<', stream.peek());
+}
+
+TEST(XMLStreamer, HandlersAreChosenByTheVersionThatIsSetWhenTheyAreDue)
+{
+    XMLStreamer streamer;
+    std::string trace;
+    XMLStructureElement& root = streamer.CreateRootStructureElement("settings");
+    root.RegisterAttribute(0, "format",
+                           [&](std::string const&, std::string const& value)
+                           {
+                               streamer.SetVersion(static_cast<unsigned int>(std::stoul(value)));
+                               return true;
+                           });
+    XMLContentElement& title = root.CreateContentElement("title");
+    title.SetOnDo(1,
+                  [&](XMLContentElement const&, std::string const&)
+                  {
+                      trace += "1";
+                      return true;
+                  });
+    title.SetOnDo(3,
+                  [&](XMLContentElement const&, std::string const&)
+                  {
+                      trace += "3";
+                      return true;
+                  });
+    for (char const* const format : { "0", "1", "2", "3", "9" })
+    {
+        trace += " ";
+        std::istringstream stream(std::string(c_declaration) + "<settings format='" + format +
+                                  "'><title>a</title></settings>");
+        EXPECT_TRUE(streamer.ProcessSource(stream));
+    }
+    EXPECT_EQ("  1 1 3 3", trace);
+}
+
+TEST(XMLStreamer, ExceptionOfAHandlerPassesAndTheNextRunStartsClean)
+{
+    TracingReader reader;
+    bool isThrowing = true;
+    reader.streamer.SetOnUnknownElement(
+        1, [&](std::string const&) -> bool { return isThrowing ? throw std::runtime_error("handler") : true; });
+    std::string const document = std::string(c_declaration) + "<settings><x>\n</x></settings>";
+    EXPECT_THROW(reader.Read(document), std::runtime_error);
+    EXPECT_EQ("/settings/x", reader.streamer.GetOpenElementPath());
+    isThrowing = false;
+    EXPECT_EQ("0 [] -1:-1 2:16 / <settings;>settings;", reader.Describe(reader.Read(document)));
+}
+
+TEST(XMLStreamer, HandlerMayChangeTheDescriptionButNotStartARun)
+{
+    TracingReader reader;
+    XMLStreamer& streamer = reader.streamer;
+    int asked = 0;
+    streamer.SetOnUnknownElement(1,
+                                 [&](std::string const& name)
+                                 {
+                                     ++asked;
+                                     std::istringstream inner("x");
+                                     EXPECT_THROW(streamer.ProcessSource(inner), Vek::InvalidStateException);
+                                     streamer.CreateRootStructureElement(
+                                         name); // counts from the next run on; what is open stays described
+                                     return true;
+                                 });
+    std::string const document = std::string(c_declaration) + "<settings><other/><title>a</title></settings>";
+    EXPECT_EQ("0 [] -1:-1 1:67 / <settings;title=a;>settings;", reader.Describe(reader.Read(document)));
+    EXPECT_EQ(1, asked);
+    EXPECT_EQ("3 [other] -1:-1 1:23 / ", reader.Describe(reader.Read(document)));
+}
+
+TEST(XMLStreamer, RefusedDuplicateIsAnErrorUntilTheNextRun)
+{
+    TracingReader reader;
+    XMLStructureElement& root = reader.streamer.CreateRootStructureElement("settings");
+    root.CreateContentElement("title");
+    XMLContentElement& refused = root.CreateContentElement("title");
+    refused.SetOnDo(1, [](XMLContentElement const&, std::string const&) { return false; });
+    EXPECT_EQ(StreamerError::DuplicateName, reader.streamer.GetError().GetErrorCode());
+    EXPECT_TRUE(reader.Read(std::string(c_declaration) + "<settings><title>a</title></settings>"));
+    EXPECT_EQ(StreamerError::Ok, reader.streamer.GetError().GetErrorCode());
+}
+
+TEST(XMLStreamer, StreamThatCannotBeReadEndsTooEarly)
+{
+    TracingReader reader;
+    std::istringstream stream(std::string(c_declaration) + "<settings></settings>");
+    stream.setstate(std::ios_base::failbit);
+    EXPECT_FALSE(reader.streamer.ProcessSource(stream));
+    EXPECT_EQ(StreamerError::UnexpectedEndOfStream, reader.streamer.GetError().GetErrorCode());
+}
+
+TEST(XMLStreamer, DepthAndLengthAreNotLimited)
+{
+    TracingReader reader;
+    reader.streamer.SetOnUnknownElement(1, [](std::string const&) { return true; });
+    EXPECT_TRUE(reader.Read(Nest(100'000)));
+
+    std::string const text(3'000'000, 'a'); // three reads
+    EXPECT_TRUE(reader.Read(c_declaration + ("<settings>\n<title>" + text) + "&amp;" + text + "</title></settings>"));
+    EXPECT_EQ("<settings;title=" + text + "&" + text + ";>settings;", reader.trace);
+    EXPECT_EQ(6'000'032, reader.streamer.GetParserResult().column);
+}
+
+// The parser ends with Ok or InvalidSyntax only; the rest of its results is mapped all the same.
+TEST(XMLStreamer, ParserResultsAndTheirErrors)
+{
+    using Vek::Framework::IParser::Native::ParserResult;
+    struct ErrorRow
+    {
+        ParserResult::ResultCode result;
+        unsigned int state;
+        StreamerError::ResultCode code;
+        char const* expectedSymbol;
+    };
+    ErrorRow const rows[] = {
+        { ParserResult::Ok, 7, StreamerError::UnexpectedEndOfStream, "" },
+        { ParserResult::SourceNotReadable, 0, StreamerError::InvalidStream, "" },
+        { ParserResult::NestedStateStackNotEmpty, 3, StreamerError::UnexpectedEndOfStream, "" },
+        { ParserResult::InvalidSyntax, 0, StreamerError::Ok, "" },
+        { ParserResult::TextConsumerNotRegistered, 0, StreamerError::InvalidStream, "<?xml oder <!--" },
+        { ParserResult::TextConsumerNotRegistered, 1, StreamerError::InvalidStream,
+          "version=\"1.0\" oder version='1.0'" },
+        { ParserResult::NumberConsumerNotRegistered, 2, StreamerError::InvalidStream, "?>" },
+        { ParserResult::TextConsumerNotRegistered, 3, StreamerError::InvalidSyntax, "< oder <!--" },
+        { ParserResult::TextConsumerNotRegistered, 5, StreamerError::Ok, "" },
+        { ParserResult::TextConsumerNotRegistered, 6, StreamerError::InvalidSyntax, "=" },
+        { ParserResult::NumberConsumerNotRegistered, 7, StreamerError::InvalidSyntax, "\" oder '" },
+        { ParserResult::TextConsumerNotRegistered, 12, StreamerError::InvalidSyntax, "/" },
+        { ParserResult::TextConsumerNotRegistered, 14, StreamerError::InvalidSyntax, ">" },
+        { ParserResult::TextConsumerNotRegistered, 15, StreamerError::InvalidSyntax, "Ende vom XML-Stream oder <!--" },
+    };
+    for (ErrorRow const& row : rows)
+    {
+        auto const error = Internal::FindParserError(row.result, row.state);
+        EXPECT_EQ(row.code, error.code) << row.state;
+        EXPECT_STREQ(row.expectedSymbol, error.expectedSymbol) << row.state;
+    }
+}
