@@ -160,7 +160,7 @@ bool StateProcessor::ConsumeInBulk()
     State::BulkConsumer const& consumer = *m_state->m_bulkConsumer;
     if (!consumer || m_isTextAside || m_textStart == m_source.GetEnd())
         return true;
-    State::ResultParams params { m_state->m_id, false, false, GetOffset() };
+    State::ResultParams params{ m_state->m_id, false, false, GetOffset() };
     m_textStart = consumer(m_textStart, m_source.GetEnd(), params);
     SwitchState(params.nextStateId);
     return IsGoingOn(params);
@@ -236,7 +236,7 @@ std::string const& StateProcessor::GetPendingText(char const* end)
 template <class Call>
 bool StateProcessor::InvokeConsumer(Call const& call)
 {
-    State::ResultParams params { m_state->m_id, false, false, GetOffset() };
+    State::ResultParams params{ m_state->m_id, false, false, GetOffset() };
     call(params);
     if (!IsGoingOn(params))
         return false;

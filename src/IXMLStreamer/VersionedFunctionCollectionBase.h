@@ -92,7 +92,7 @@ void VersionedFunctionCollectionBase<F>::SetFunction(unsigned int version, F fun
     std::size_t const count = CountUpTo(version);
     if (count == 0 || m_entries[count - 1].version != version)
     {
-        m_entries.insert(m_entries.begin() + static_cast<std::ptrdiff_t>(count), Entry { version, std::move(stored) });
+        m_entries.insert(m_entries.begin() + static_cast<std::ptrdiff_t>(count), Entry{ version, std::move(stored) });
         return;
     }
     m_replaced.push_back(nullptr);

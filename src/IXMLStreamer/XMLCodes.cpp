@@ -41,7 +41,7 @@ constexpr Code c_codes[] = {
 
 constexpr auto c_nameBySymbol = []
 {
-    std::array<char const*, 256> names {};
+    std::array<char const*, 256> names{};
     for (Code const& code : c_codes)
         names[code.symbol] = code.name;
     return names;
@@ -73,7 +73,7 @@ struct Slot
 
 constexpr auto c_symbolByName = []
 {
-    std::array<Slot, c_slots> slots {};
+    std::array<Slot, c_slots> slots{};
     for (Code const& code : c_codes)
     {
         std::size_t slot = GetSlot(Pack(code.name));

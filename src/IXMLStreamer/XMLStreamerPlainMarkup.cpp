@@ -1,5 +1,6 @@
 #include <IXMLStreamer/XMLStreamerReader.h>
 
+#include <IParser/Internal/FindAny.h>
 #include <IXMLStreamer/Internal/ReaderStates.h>
 #include <IXMLStreamer/XMLCodes.h>
 
@@ -14,6 +15,17 @@ namespace Vek::Framework::IXMLStreamer::Native
 {
 
 using namespace Internal;
+using IParser::Native::Internal::FindAny;
+
+namespace
+{
+
+constexpr bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+} // namespace
 
 void XMLStreamer::Reader::RegisterPlainMarkup(State& state)
 {
@@ -53,23 +65,41 @@ char const* XMLStreamer::Reader::ReadConstruct(char const* at, char const* end, 
 template <auto consumer, class... Text>
 bool XMLStreamer::Reader::Consume(unsigned int state, Params& params, Text const&... text)
 {
-    Params own { state, false, false, 0 };
+    Params own{ state, false, false, 0 };
     (this->*consumer)(text..., own);
     params.isSyntaxError = own.isSyntaxError;
     params.nextStateId = own.isSyntaxError ? state : own.nextStateId;
     return !own.isSyntaxError;
 }
 
+// Appends the text up to the next `stop`, codes decoded; answers where that is. Null when it is
+// not in memory or a code is not one of the named ones; some of the text may be appended then.
+template <char stop>
+char const* XMLStreamer::Reader::AppendPlainText(char const* at, char const* end)
+{
+    while (at != nullptr)
+    {
+        char const* const textEnd = FindAny<stop, '&'>(at, end);
+        if (textEnd == end)
+            return nullptr;
+        m_value.append(at, static_cast<std::size_t>(textEnd - at));
+        if (*textEnd == stop)
+            return textEnd;
+        at = AppendNamedCode(textEnd, end);
+    }
+    return nullptr;
+}
+
 char const* XMLStreamer::Reader::ReadTag(char const* at, char const* end, Params& params)
 {
-    at = m_tagStarts.Find(at, end); // the text before it is dropped
+    at = FindAny<'<'>(at, end); // the text before it is dropped
     if (end - at < 2 || at[1] == '!')
         return nullptr;
     if (at[1] == '/')
         return IsEndTag(at, end) ? ReadEndTag(at, end, params) : nullptr;
 
     char const* const name = at + 1;
-    char const* const nameEnd = m_elementNameStops.Find(name, end);
+    char const* const nameEnd = FindAny<' ', '\t', '\r', '\n', '>', '/'>(name, end);
     if (nameEnd == end || nameEnd == name || (*nameEnd == '/' && (nameEnd + 1 == end || nameEnd[1] != '>')))
         return nullptr;
     std::string_view const text(name, static_cast<std::size_t>(nameEnd - name));
@@ -95,7 +125,8 @@ char const* XMLStreamer::Reader::ReadEndTag(char const* at, char const*, Params&
 
 char const* XMLStreamer::Reader::ReadStartTagPiece(char const* at, char const* end, Params& params)
 {
-    at = m_blanks.FindOther(at, end);
+    while (at != end && IsBlank(*at))
+        ++at;
     if (at == end)
         return nullptr;
     if (*at == '>')
@@ -109,22 +140,22 @@ char const* XMLStreamer::Reader::ReadStartTagPiece(char const* at, char const* e
 
 char const* XMLStreamer::Reader::ReadAttribute(char const* at, char const* end, Params& params)
 {
-    char const* const nameEnd = m_attributeNameStops.Find(at, end);
+    char const* const nameEnd = FindAny<' ', '\t', '\r', '\n', '>', '/', '='>(at, end);
     if (nameEnd == at || end - nameEnd < 2 || nameEnd[0] != '=' || nameEnd[1] != '"')
         return nullptr;
 
     m_value.clear();
-    char const* const valueEnd = AppendPlainText(nameEnd + 2, end, m_quotedStops);
+    char const* const valueEnd = AppendPlainText<'"'>(nameEnd + 2, end);
     if (valueEnd == nullptr)
         return nullptr;
-    m_attributeName.assign(at, nameEnd);
+    m_attributeName.assign(at, static_cast<std::size_t>(nameEnd - at));
     return Consume<&Reader::EndAttribute>(DoubleQuotedValue, params) ? valueEnd + 1 : valueEnd;
 }
 
 char const* XMLStreamer::Reader::ReadContent(char const* at, char const* end, Params& params)
 {
     std::size_t const known = m_value.size();
-    char const* const contentEnd = AppendPlainText(at, end, m_contentStops);
+    char const* const contentEnd = AppendPlainText<'<'>(at, end);
     if (contentEnd == nullptr || !IsEndTag(contentEnd, end))
     {
         m_value.resize(known);
@@ -133,23 +164,6 @@ char const* XMLStreamer::Reader::ReadContent(char const* at, char const* end, Pa
     if (!Consume<&Reader::EndContent>(Content, params))
         return contentEnd;
     return ReadEndTag(contentEnd, end, params);
-}
-
-// Appends the text up to the first of `stops` that is no code, codes decoded; answers where that is. Null when it is
-// not in memory or a code is not one of the named ones; some of the text may be appended then.
-char const* XMLStreamer::Reader::AppendPlainText(char const* at, char const* end, ByteFinder const& stops)
-{
-    while (at != nullptr)
-    {
-        char const* const stop = stops.Find(at, end);
-        if (stop == end)
-            return nullptr;
-        m_value.append(at, stop);
-        if (*stop != '&')
-            return stop;
-        at = AppendNamedCode(stop, end);
-    }
-    return nullptr;
 }
 
 char const* XMLStreamer::Reader::AppendNamedCode(char const* at, char const* end)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <IParser/Internal/ByteFinder.h>
 #include <IParser/StateParser.h>
 #include <IXMLStreamer/Internal/OpenElements.h>
 #include <IXMLStreamer/VersionedFunctionCollection.h>
@@ -37,7 +36,6 @@ public:
 private:
     using State = IParser::Native::State;
     using Params = State::ResultParams;
-    using ByteFinder = IParser::Native::Internal::ByteFinder;
     class Running;
 
     // The state table.
@@ -67,7 +65,8 @@ private:
     char const* ReadAttribute(char const* at, char const* end, Params& params);
     char const* ReadContent(char const* at, char const* end, Params& params);
     bool IsEndTag(char const* at, char const* end) const;
-    char const* AppendPlainText(char const* at, char const* end, ByteFinder const& stops);
+    template <char stop>
+    char const* AppendPlainText(char const* at, char const* end);
     char const* AppendNamedCode(char const* at, char const* end);
     template <auto consumer, class... Text>
     bool Consume(unsigned int state, Params& params, Text const&... text);
@@ -120,12 +119,6 @@ private:
     std::string m_attributeName;
     std::string m_value; // of an attribute or a content element, which cannot overlap
     std::string m_code;
-    ByteFinder m_blanks { " \t\r\n" };
-    ByteFinder m_tagStarts { "<" };
-    ByteFinder m_elementNameStops { " \t\r\n>/" };
-    ByteFinder m_attributeNameStops { " \t\r\n>/=" };
-    ByteFinder m_quotedStops { "\"&" };
-    ByteFinder m_contentStops { "<&" };
     unsigned int m_stateBeforeComment = 0;
     unsigned int m_stateBeforeCode = 0;
 };

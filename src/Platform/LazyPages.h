@@ -46,7 +46,7 @@ private:
     }
 
     Fill m_fill;
-    std::array<std::atomic<Page const*>, 256> m_pages {};
+    std::array<std::atomic<Page const*>, 256> m_pages{};
 };
 
 } // namespace Vek::Platform

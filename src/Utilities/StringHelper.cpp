@@ -25,7 +25,7 @@ constexpr int FoldCharacter(int c) noexcept
 /// Each byte, read as signed, after folding.
 constexpr std::array<signed char, 256> MakeFolds() noexcept
 {
-    std::array<signed char, 256> folds {};
+    std::array<signed char, 256> folds{};
     for (std::size_t byte = 0; byte < folds.size(); ++byte)
         folds[byte] = static_cast<signed char>(FoldCharacter(static_cast<signed char>(byte)));
     return folds;

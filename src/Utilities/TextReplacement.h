@@ -36,7 +36,7 @@ public:
     /// Throws ArgumentException when the replacing would not end.
     String Run()
     {
-        Unit unit {};
+        Unit unit{};
         while (TakeNext(unit))
         {
             m_left.push_back(unit);
@@ -49,7 +49,7 @@ public:
 private:
     // What every unit of the text can bring forth in turn lies below the limit. Text that feeds on itself
     // ("ab" by "bbaa" in "aab") passes it; whether such a pair ends cannot be decided beforehand.
-    static constexpr std::size_t c_growthLimit = std::size_t { 1 } << 24U;
+    static constexpr std::size_t c_growthLimit = std::size_t{ 1 } << 24U;
 
     bool TakeNext(Unit& unit)
     {

@@ -14,7 +14,7 @@ namespace
 /// All texts over two letters up to the given length.
 std::vector<std::string> MakeTexts(std::size_t longest)
 {
-    std::vector<std::string> texts { "" };
+    std::vector<std::string> texts{ "" };
     for (std::size_t at = 0; at < texts.size(); ++at)
     {
         if (texts[at].size() < longest)

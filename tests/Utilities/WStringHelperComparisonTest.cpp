@@ -83,7 +83,7 @@ private:
         return static_cast<wchar_t>(unit);
     }
 
-    std::mt19937 m_random { 20240131 };
+    std::mt19937 m_random{ 20240131 };
 };
 
 } // namespace

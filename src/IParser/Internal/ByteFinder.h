@@ -3,7 +3,6 @@
 #include <array>
 #include <bit>
 #include <cstddef>
-#include <string_view>
 
 #include <emmintrin.h>
 
@@ -14,13 +13,6 @@ namespace Vek::Framework::IParser::Native::Internal
 class ByteFinder
 {
 public:
-    ByteFinder() = default;
-    explicit ByteFinder(std::string_view members)
-    {
-        for (char const member : members)
-            Add(static_cast<unsigned char>(member));
-    }
-
     bool Contains(char byte) const { return m_contains[static_cast<unsigned char>(byte)]; }
 
     void Add(unsigned char byte)
@@ -80,8 +72,8 @@ private:
         return static_cast<unsigned int>(_mm_movemask_epi8(hits));
     }
 
-    __m128i m_needles[c_lanes] {}; // the last member fills the lanes that are left
-    std::array<bool, 256> m_contains {};
+    __m128i m_needles[c_lanes]{}; // the last member fills the lanes that are left
+    std::array<bool, 256> m_contains{};
     std::size_t m_count = 0;
 };
 

@@ -50,12 +50,12 @@ private:
     void Classify(unsigned char byte);
     StateToken const* FindSingleByteToken(unsigned char byte) const;
 
-    std::array<Node*, 256> m_roots {};
+    std::array<Node*, 256> m_roots{};
     std::deque<Node> m_nodes;
     std::vector<std::unique_ptr<StateToken>> m_tokens;
     ByteFinder m_starts;
     ByteFinder m_blanks;
-    std::array<StateToken const*, 256> m_singles {};
+    std::array<StateToken const*, 256> m_singles{};
     bool m_hasCaseSensitiveTokens = false;
     bool m_hasCaseInsensitiveTokens = false;
 };

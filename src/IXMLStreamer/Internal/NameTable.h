@@ -71,7 +71,7 @@ private:
     struct Entry
     {
         std::string name;
-        T value {};
+        T value{};
     };
 
     std::vector<std::unique_ptr<Entry>> m_entries;

@@ -18,7 +18,7 @@ constexpr char16_t c_c1Rows[32] = {
 
 constexpr SingleBytePage::Units MakeUnits()
 {
-    SingleBytePage::Units units {};
+    SingleBytePage::Units units{};
     for (unsigned byte = 0; byte < units.size(); ++byte)
         units[byte] = byte >= 0x80 && byte < 0xA0 ? c_c1Rows[byte - 0x80] : static_cast<char16_t>(byte);
     return units;

@@ -44,10 +44,10 @@ void EncodeUnits(char16_t first, SingleBytePage::Bytes::Page& bytes)
 /// Null when the system's page has characters of more than one byte.
 SingleBytePage* MakePage()
 {
-    CPINFO info {};
+    CPINFO info{};
     if (GetCPInfo(CP_ACP, &info) == 0 || info.MaxCharSize != 1)
         return nullptr;
-    SingleBytePage::Units units {};
+    SingleBytePage::Units units{};
     for (unsigned byte = 0; byte < units.size(); ++byte)
         units[byte] = static_cast<char16_t>(DecodeBySystem(std::string(1, static_cast<char>(byte))).at(0));
     return new SingleBytePage(units, EncodeUnits);
