@@ -1,8 +1,82 @@
 #include <IXMLStreamer/VersionedFunctionCollection.h>
 
+#include <utility>
+
 namespace Vek::Framework::IXMLStreamer::Native
 {
 
+template <class F>
+VersionedFunctionCollectionBase<F>::VersionedFunctionCollectionBase() = default;
+
+template <class F>
+VersionedFunctionCollectionBase<F>::VersionedFunctionCollectionBase(VersionedFunctionCollectionBase const& other)
+{
+    m_entries.reserve(other.m_entries.size());
+    for (Entry const& entry : other.m_entries)
+        m_entries.push_back({ entry.version, Internal::SharedFunction<F>(*entry.function) });
+}
+
+template <class F>
+VersionedFunctionCollectionBase<F>& VersionedFunctionCollectionBase<F>::operator=(
+    VersionedFunctionCollectionBase const& other)
+{
+    VersionedFunctionCollectionBase copy(other);
+    m_entries.swap(copy.m_entries);
+    return *this;
+}
+
+template <class F>
+VersionedFunctionCollectionBase<F>::~VersionedFunctionCollectionBase() = default;
+
+template <class F>
+void VersionedFunctionCollectionBase<F>::SetFunction(unsigned int version, F function)
+{
+    Internal::SharedFunction<F> stored(std::move(function));
+    auto const next = FindNext(m_entries.begin(), m_entries.end(), version);
+    if (next != m_entries.begin() && (next - 1)->version == version)
+        (next - 1)->function.Swap(stored); // the old one ends last, whatever its end brings about
+    else
+        m_entries.insert(next, Entry{ version, std::move(stored) });
+}
+
+template <class F>
+F const* VersionedFunctionCollectionBase<F>::GetFunction(unsigned int version) const
+{
+    return FindFunction(version).Get();
+}
+
+template <class... Arguments>
+VersionedFunctionCollection<std::function<bool(Arguments...)>>::VersionedFunctionCollection() = default;
+
+template <class... Arguments>
+VersionedFunctionCollection<std::function<bool(Arguments...)>>::VersionedFunctionCollection(
+    VersionedFunctionCollection const& other) = default;
+
+template <class... Arguments>
+VersionedFunctionCollection<std::function<bool(Arguments...)>>& VersionedFunctionCollection<
+    std::function<bool(Arguments...)>>::operator=(VersionedFunctionCollection const& other) = default;
+
+template <class... Arguments>
+VersionedFunctionCollection<std::function<bool(Arguments...)>>::~VersionedFunctionCollection() = default;
+
+template <class... Arguments>
+bool VersionedFunctionCollection<std::function<bool(Arguments...)>>::CallFunction(unsigned int version,
+                                                                                  Arguments... arguments) const
+{
+    auto const function = this->FindFunction(version);
+    return !function || (*function)(arguments...);
+}
+
+template <class... Arguments>
+bool VersionedFunctionCollection<std::function<bool(Arguments...)>>::CallFunction(bool& isFound, unsigned int version,
+                                                                                  Arguments... arguments) const
+{
+    auto const function = this->FindFunction(version);
+    isFound = static_cast<bool>(function);
+    return !isFound || (*function)(arguments...);
+}
+
+// The bases first: a derived instance would make theirs implicitly, and without export.
 template class VEK_API VersionedFunctionCollectionBase<UnknownElementHandler>;
 template class VEK_API VersionedFunctionCollectionBase<AttributeHandler>;
 template class VEK_API VersionedFunctionCollectionBase<ContentHandler>;

@@ -39,41 +39,8 @@ public:
     bool CallFunction(bool& isFound, unsigned int version, Arguments... arguments) const;
 };
 
-template <class... Arguments>
-VersionedFunctionCollection<std::function<bool(Arguments...)>>::VersionedFunctionCollection() = default;
-
-template <class... Arguments>
-VersionedFunctionCollection<std::function<bool(Arguments...)>>::VersionedFunctionCollection(
-    VersionedFunctionCollection const& other) = default;
-
-template <class... Arguments>
-VersionedFunctionCollection<std::function<bool(Arguments...)>>& VersionedFunctionCollection<
-    std::function<bool(Arguments...)>>::operator=(VersionedFunctionCollection const& other) = default;
-
-template <class... Arguments>
-VersionedFunctionCollection<std::function<bool(Arguments...)>>::~VersionedFunctionCollection() = default;
-
-template <class... Arguments>
-bool VersionedFunctionCollection<std::function<bool(Arguments...)>>::CallFunction(unsigned int version,
-                                                                                  Arguments... arguments) const
-{
-    bool isFound = false;
-    return CallFunction(isFound, version, arguments...);
-}
-
-template <class... Arguments>
-bool VersionedFunctionCollection<std::function<bool(Arguments...)>>::CallFunction(bool& isFound, unsigned int version,
-                                                                                  Arguments... arguments) const
-{
-    auto const* const function = this->GetFunction(version);
-    isFound = function != nullptr;
-    if (!isFound)
-        return true;
-    typename VersionedFunctionCollection::ActiveCall const call(*this);
-    return (*function)(arguments...);
-}
-
-// The library holds the four instantiations; hosts take them from there.
+// The library holds the four instances and exports them; hosts take them from there. The members are defined in
+// VersionedFunctionCollection.cpp, so that no other source makes a hidden copy that would hide the exported one.
 #if !defined(VEK_BUILDING_LIBRARY)
 extern template class VEK_API VersionedFunctionCollectionBase<UnknownElementHandler>;
 extern template class VEK_API VersionedFunctionCollectionBase<AttributeHandler>;

@@ -10,8 +10,14 @@ XMLElement::XMLElement(std::string const& name) : m_name(name)
 }
 
 XMLElement::XMLElement(XMLElement const& other) = default;
-XMLElement& XMLElement::operator=(XMLElement const& other) = default;
 XMLElement::~XMLElement() = default;
+
+XMLElement& XMLElement::operator=(XMLElement const& other)
+{
+    m_attributes = other.m_attributes;
+    m_unspecifiedAttributes = other.m_unspecifiedAttributes;
+    return *this;
+}
 
 std::string const& XMLElement::GetElementName() const noexcept
 {

@@ -25,6 +25,7 @@ public:
     };
 
     XMLElement(XMLElement const& other);
+    /// Takes over copies of the handlers; the name stays, since it is what the parent finds this element by.
     XMLElement& operator=(XMLElement const& other);
     virtual ~XMLElement();
 

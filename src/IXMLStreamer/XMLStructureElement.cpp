@@ -42,7 +42,7 @@ void XMLStructureElement::InsertElement(std::unique_ptr<XMLElement> element)
     XMLElement& inserted = *m_ownedElements.emplace_back(std::move(element));
     if (m_children.Find(inserted.GetElementName()) == nullptr)
         m_children.Add(inserted.GetElementName()) = &inserted;
-    else if (m_error.GetErrorCode() == StreamerError::Ok)
+    else
         m_error.RaiseError(StreamerError::DuplicateName, -1, -1, "");
 }
 

@@ -45,17 +45,21 @@ public:
         return found == m_index.end() ? nullptr : &found->second->value;
     }
 
-    /// The value of `name`, which the table does not have yet.
+    /// The value of `name`, which the table does not have yet. When it throws, the table is as before.
     T& Add(std::string_view name)
     {
         auto entry = std::make_unique<Entry>();
         entry->name = name;
         Entry& added = *m_entries.emplace_back(std::move(entry));
-        if (m_entries.size() == c_mostWalked + 1)
-            for (auto const& known : m_entries)
-                m_index.emplace(known->name, known.get());
-        else if (m_entries.size() > c_mostWalked)
-            m_index.emplace(added.name, &added);
+        try
+        {
+            AddToIndex(added);
+        }
+        catch (...)
+        {
+            m_entries.pop_back();
+            throw;
+        }
         return added.value;
     }
 
@@ -73,6 +77,15 @@ private:
         std::string name;
         T value{};
     };
+
+    void AddToIndex(Entry& added)
+    {
+        if (m_entries.size() == c_mostWalked + 1)
+            for (auto const& known : m_entries)
+                m_index.emplace(known->name, known.get());
+        else if (m_entries.size() > c_mostWalked)
+            m_index.emplace(added.name, &added);
+    }
 
     std::vector<std::unique_ptr<Entry>> m_entries;
     std::unordered_map<std::string_view, Entry*> m_index;
