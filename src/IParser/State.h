@@ -114,7 +114,7 @@ private:
 
     void InsertToken(std::unique_ptr<Internal::StateToken> token);
     template <class Consumer>
-    void Replace(std::shared_ptr<Consumer const>& slot, Consumer consumer);
+    VEK_LOCAL void Replace(std::shared_ptr<Consumer const>& slot, Consumer consumer);
 
     unsigned int m_id;
     unsigned int const& m_activeRuns; // of the parser that owns this state

@@ -56,10 +56,10 @@ public:
     ParserResult const& GetParserResult() const noexcept;
 
 private:
-    struct Registry;
+    struct VEK_LOCAL Registry;
 
     template <class... Source>
-    bool Run(Source&&... source);
+    VEK_LOCAL bool Run(Source&&... source);
 
     std::unique_ptr<Registry> m_registry;
     ParserResult m_result;

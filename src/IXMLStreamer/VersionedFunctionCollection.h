@@ -9,8 +9,8 @@
 namespace Vek::Framework::IXMLStreamer::Native
 {
 
-class XMLContentElement;
-class XMLStructureElement;
+class VEK_API XMLContentElement;
+class VEK_API XMLStructureElement;
 
 using UnknownElementHandler = std::function<bool(std::string const& name)>;
 using AttributeHandler = std::function<bool(std::string const& name, std::string const& value)>;
@@ -22,7 +22,7 @@ template <class F>
 class VersionedFunctionCollection;
 
 template <class... Arguments>
-class VersionedFunctionCollection<std::function<bool(Arguments...)>>
+class VEK_TEMPLATE_API VersionedFunctionCollection<std::function<bool(Arguments...)>>
     : public VersionedFunctionCollectionBase<std::function<bool(Arguments...)>>
 {
 public:

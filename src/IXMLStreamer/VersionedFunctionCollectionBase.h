@@ -1,5 +1,7 @@
 #pragma once
 
+#include <VekApi.h>
+
 #include <IXMLStreamer/Internal/SharedFunction.h>
 
 #include <algorithm>
@@ -15,7 +17,7 @@ namespace Vek::Framework::IXMLStreamer::Native
 /// Reentry: a function may replace functions of this collection while it is called, itself included, or end the
 ///          collection: it stays alive until its call ends, and the new one counts from the next call on.
 template <class F>
-class VersionedFunctionCollectionBase
+class VEK_TEMPLATE_API VersionedFunctionCollectionBase
 {
 public:
     VersionedFunctionCollectionBase();

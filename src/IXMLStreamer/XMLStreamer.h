@@ -67,7 +67,7 @@ public:
     std::string GetOpenElementPath() const;
 
 private:
-    class Reader;
+    class VEK_LOCAL Reader;
 
     std::unique_ptr<Reader> m_reader;
 };

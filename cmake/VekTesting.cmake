@@ -1,0 +1,34 @@
+# Tests that run on both targets. Under Wine they share one prefix and one server, which the fixture StartWine starts;
+# started by a test, the server would keep that test's output open for seconds.
+
+set(VEK_WINEPREFIX ${PROJECT_BINARY_DIR}/wineprefix CACHE PATH "The Wine prefix that the tests use")
+
+if(WIN32 AND CMAKE_CROSSCOMPILING)
+    # A host's LANG counts for nothing here: only LC_ALL reaches the programs under Wine.
+    set(VEK_TEST_ENVIRONMENT
+        WINEPREFIX=${VEK_WINEPREFIX}
+        WINEDEBUG=-all
+        WINEDLLOVERRIDES=winedbg.exe=d
+        LC_ALL=de_DE.UTF-8)
+    add_test(NAME StartWine COMMAND sh ${PROJECT_SOURCE_DIR}/cmake/start-wine.sh)
+    set_tests_properties(StartWine PROPERTIES
+        FIXTURES_SETUP Wine TIMEOUT 300 ENVIRONMENT "${VEK_TEST_ENVIRONMENT}")
+endif()
+
+# Gives tests that add_test has made what they need on this target.
+function(vek_set_up_tests)
+    set_tests_properties(${ARGN} PROPERTIES TIMEOUT 300)
+    if(VEK_TEST_ENVIRONMENT)
+        set_tests_properties(${ARGN} PROPERTIES FIXTURES_REQUIRED Wine ENVIRONMENT "${VEK_TEST_ENVIRONMENT}")
+    endif()
+endfunction()
+
+# A GoogleTest program. Wine may end a crashed program with exit code 0, so there its last words count.
+function(vek_add_gtest target)
+    add_test(NAME ${target} COMMAND ${target})
+    vek_set_up_tests(${target})
+    if(VEK_TEST_ENVIRONMENT)
+        set_tests_properties(${target} PROPERTIES
+            PASS_REGULAR_EXPRESSION "\\[  PASSED  \\]" FAIL_REGULAR_EXPRESSION "\\[  FAILED  \\]")
+    endif()
+endfunction()

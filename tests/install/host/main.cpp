@@ -1,0 +1,75 @@
+// Uses one thing of every family across the border of the library: exceptions by type, exported templates, callbacks,
+// strings made on one side and freed on the other.
+
+#include <Exceptions/ArgumentException.h>
+#include <Exceptions/UserException.h>
+#include <IParser/Internal/KeyAlreadyInsertedException.h>
+#include <IParser/StateParser.h>
+#include <IXMLStreamer/XMLContentElement.h>
+#include <IXMLStreamer/XMLStreamer.h>
+#include <SysBase/ExceptionHandler.h>
+#include <Utilities/WStringHelper.h>
+
+#include <iostream>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+
+namespace
+{
+
+using namespace Vek::Framework::IXMLStreamer::Native;
+
+std::string Read(std::string const& document)
+{
+    std::string title;
+    XMLStreamer streamer;
+    XMLContentElement& element = streamer.CreateRootStructureElement("settings").CreateContentElement("title");
+    element.SetOnDo(1,
+                    [&title](XMLContentElement const&, std::string const& content)
+                    {
+                        title = content;
+                        return true;
+                    });
+    VersionedFunctionCollection<UnknownElementHandler> own;
+    own.SetFunction(0, [](std::string const&) { return false; });
+    streamer.SetVersion(own.CallFunction(1, "x") ? 0 : 1);
+    std::istringstream stream(document);
+    return streamer.ProcessSource(stream) ? title : std::string(streamer.GetError().GetDescription());
+}
+
+template <class Exception, class Action>
+bool Throws(Action const& action)
+{
+    try
+    {
+        action();
+    }
+    catch (Exception const&)
+    {
+        return true;
+    }
+    return false;
+}
+
+bool AreExceptionsCaughtByType()
+{
+    namespace Parser = Vek::Framework::IParser::Native;
+    Parser::StateParser parser;
+    Parser::State* const state = parser.RegisterState(0, Parser::StateParser::SkipWhiteSpace);
+    return Throws<Vek::ArgumentException>([&] { parser.RegisterState(0, Parser::StateParser::KeepWhiteSpace); }) &&
+           Throws<Parser::Internal::KeyAlreadyInsertedException>(
+               [&] { state->RegisterSkipToken(" ", Parser::State::CaseSensitive); }) &&
+           Throws<std::range_error>([] { Vek::Framework::Utilities::WStringHelper::GetUTF16FromUTF8("\xC3("); }) &&
+           !VekSysBase::ExceptionHandler::ExecuteSafe([] { throw Vek::UserException("host"); }, L"", L"", L"");
+}
+
+} // namespace
+
+int main()
+{
+    bool const isFine = Read("<?xml version=\"1.0\"?><settings><title>a&lt;b</title></settings>") == "a<b" &&
+                        AreExceptionsCaughtByType();
+    std::cout << (isFine ? "The installed package works\n" : "The installed package does not work\n");
+    return isFine ? 0 : 1;
+}

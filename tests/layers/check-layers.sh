@@ -1,0 +1,40 @@
+# Shows that no file includes what its layer may not know. Runs in the source folder.
+# Usage: check-layers.sh PUBLIC_HEADER...
+failures=0
+
+report()
+{
+    [ -z "$2" ] || { printf '%s\n%s\n' "$1" "$2"; failures=$((failures + 1)); }
+}
+
+# A family may include itself and the families after it.
+allow()
+{
+    local family=$1 allowed
+    allowed=$(IFS='|'; echo "$*")
+    report "$family may not include:" "$(
+        grep -rnE '^#include <(Exceptions|Utilities|SysBase|IParser|ICommandProcessor|IXMLStreamer|Platform)/' "$family" |
+            grep -vE "#include <($allowed)/"
+    )"
+}
+
+allow Exceptions
+allow Utilities Exceptions Platform
+allow SysBase Exceptions Platform
+allow IParser Utilities Exceptions Platform
+allow IXMLStreamer IParser Utilities Exceptions Platform
+allow Platform Exceptions
+
+# What a public header includes of ours is public too.
+private=$(grep -HoE '^#include <[^>]*/[^>]*>' "$@" | grep -vE '<(sys|bits)/' | while IFS=: read -r header include; do
+    included=${include#*<}
+    included=${included%>}
+    case " $* " in *" $included "*) ;; *) echo "$header: $included" ;; esac
+done)
+report "Public headers include what is not installed:" "$private"
+
+report "Only Platform, VekApi.h and the UI may ask for the platform:" "$(
+    grep -rnE '^ *# *(if|ifdef|ifndef|elif).*(_WIN32|__linux__|_MSC_VER|__MINGW)' --include='*.h' --include='*.cpp' . |
+        grep -vE '^\./(Platform/|VekApi\.h|Utilities/UI/)'
+)"
+exit $failures
