@@ -19,7 +19,7 @@ using StructureHandler = std::function<bool(XMLStructureElement const& element)>
 
 /// A collection that calls its functions. There are four, one for each kind of handler above.
 template <class F>
-class VersionedFunctionCollection;
+class VEK_TEMPLATE_API VersionedFunctionCollection;
 
 template <class... Arguments>
 class VEK_TEMPLATE_API VersionedFunctionCollection<std::function<bool(Arguments...)>>

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <VekApi.h>
-
 #include <IXMLStreamer/Internal/SharedFunction.h>
+#include <VekApi.h>
 
 #include <algorithm>
 #include <vector>

@@ -1,7 +1,6 @@
 #include <IXMLStreamer/XMLStructureElement.h>
 
 #include <IXMLStreamer/StreamerError.h>
-#include <IXMLStreamer/XMLContentElement.h>
 
 #include <utility>
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLElement.h>
 
 #include <memory>
@@ -9,7 +10,6 @@ namespace Vek::Framework::IXMLStreamer::Native
 {
 
 class StreamerError;
-class XMLContentElement;
 
 /// The description of an element that holds elements. Owns their descriptions, and cannot be copied for that reason.
 class VEK_API XMLStructureElement : public XMLElement

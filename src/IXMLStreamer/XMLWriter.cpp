@@ -1,0 +1,292 @@
+#include <IXMLStreamer/XMLWriter.h>
+
+#include <IXMLStreamer/Internal/Escaping.h>
+#include <IXMLStreamer/Internal/NumberText.h>
+
+namespace Vek::Framework::IXMLStreamer::Native
+{
+
+namespace
+{
+
+// clang-format off
+// What an operation is refused with, by state; Failed refuses all without a new error.
+constexpr WriterError::ResultCode c_refusals[][5] = {
+    // Failed          Uninitialised                Started                            Open                                Closed
+    { WriterError::Ok, WriterError::NotInitialised, WriterError::Ok,                   WriterError::Ok,                    WriterError::MoreThanOneRootElement }, // BeginStructure
+    { WriterError::Ok, WriterError::NotInitialised, WriterError::NoRootElement,        WriterError::Ok,                    WriterError::RootAlreadyEnded },       // EndStructure
+    { WriterError::Ok, WriterError::NotInitialised, WriterError::ContentElementAsRoot, WriterError::Ok,                    WriterError::MoreThanOneRootElement }, // Content
+    { WriterError::Ok, WriterError::NotInitialised, WriterError::NoRootElement,        WriterError::TooFewStructuresEnded, WriterError::Ok },                     // Finish
+};
+// clang-format on
+
+} // namespace
+
+/// Keeps other operations out and begins with an empty draft.
+class XMLWriter::RunningOperation
+{
+public:
+    explicit RunningOperation(Draft& draft) : m_draft(draft)
+    {
+        m_draft.text.clear();
+        m_draft.phase = Phase::Running;
+    }
+    RunningOperation(RunningOperation const&) = delete;
+    RunningOperation& operator=(RunningOperation const&) = delete;
+    ~RunningOperation()
+    {
+        constexpr std::size_t c_keptCapacity = 65536; // one long value must not cost memory for ever
+        if (m_draft.text.capacity() > c_keptCapacity)
+            std::string().swap(m_draft.text);
+        m_draft.phase = Phase::Idle;
+    }
+
+private:
+    Draft& m_draft;
+};
+
+XMLWriter::XMLWriter() = default;
+XMLWriter::XMLWriter(XMLWriter const& other) = default;
+XMLWriter::~XMLWriter() = default;
+
+XMLWriter& XMLWriter::operator=(XMLWriter const& other)
+{
+    if (!RequireIdle())
+        return *this;
+    std::string openNames(other.m_openNames);
+    m_nameStarts = other.m_nameStarts;
+    m_openNames.swap(openNames);
+    m_stream = other.m_stream;
+    m_state = other.m_state;
+    m_error = other.m_error;
+    return *this;
+}
+
+bool XMLWriter::StartWriting(std::ostream& stream, bool writeDeclaration)
+{
+    if (!RequireIdle())
+        return false;
+    if (stream.fail())
+    {
+        m_state = Failed;
+        return false;
+    }
+    m_stream = &stream;
+    m_openNames.clear();
+    m_nameStarts.clear();
+    m_error = WriterError();
+    m_state = Started;
+    RunningOperation const running(m_draft);
+    if (writeDeclaration)
+        m_draft.text += "<?xml version=\"1.0\"?>\n";
+    SendDraft();
+    return true;
+}
+
+bool XMLWriter::WriteBeginStructure(std::string const& name, AttributeWriter const& attributes)
+{
+    if (!Admit(Operation::BeginStructure))
+        return false;
+    if (name.empty())
+        return RaiseError(WriterError::EmptyName);
+    RunningOperation const running(m_draft);
+    std::size_t const nameStart = GetDepth() + 1;
+    std::size_t const nameSize = name.size();
+    AppendStartTag(name);
+    if (!AppendAttributes(attributes))
+        return false;
+    m_draft.text += ">\n";
+    m_openNames.reserve(m_openNames.size() + nameSize); // so that both grow or none does
+    m_nameStarts.push_back(m_openNames.size());
+    m_openNames.append(m_draft.text, nameStart, nameSize); // the attribute writer may have changed `name`
+    m_state = Open;
+    SendDraft();
+    return true;
+}
+
+bool XMLWriter::WriteEndStructure()
+{
+    if (!Admit(Operation::EndStructure))
+        return false;
+    RunningOperation const running(m_draft);
+    std::size_t const nameStart = m_nameStarts.back();
+    AppendTabs(GetDepth() - 1);
+    m_draft.text.append("</").append(m_openNames, nameStart).append(">\n");
+    m_openNames.resize(nameStart);
+    m_nameStarts.pop_back();
+    if (m_nameStarts.empty())
+        m_state = Closed;
+    SendDraft();
+    return true;
+}
+
+bool XMLWriter::WriteContentValue(std::string const& name, std::string const& value, AttributeWriter const& attributes)
+{
+    return WriteText(name, value, attributes);
+}
+
+bool XMLWriter::WriteContentValue(std::string const& name, char const* value, AttributeWriter const& attributes)
+{
+    return WriteText(name, value == nullptr ? std::string_view() : std::string_view(value), attributes);
+}
+
+bool XMLWriter::WriteContentValue(std::string const& name, int value, AttributeWriter const& attributes)
+{
+    return WriteNumber(name, value, attributes);
+}
+
+bool XMLWriter::WriteContentValue(std::string const& name, unsigned int value, AttributeWriter const& attributes)
+{
+    return WriteNumber(name, value, attributes);
+}
+
+bool XMLWriter::WriteContentValue(std::string const& name, double value, AttributeWriter const& attributes)
+{
+    return WriteNumber(name, value, attributes);
+}
+
+bool XMLWriter::WriteContentValue(std::string const& name, bool value, AttributeWriter const& attributes)
+{
+    return WriteText(name, value ? "1" : "0", attributes);
+}
+
+bool XMLWriter::WriteContent(std::string const& name, AttributeWriter const& attributes)
+{
+    return WriteText(name, std::string_view(), attributes);
+}
+
+bool XMLWriter::WriteComment(std::string const& text)
+{
+    if (m_state == Failed || !RequireIdle())
+        return false;
+    if (m_stream == nullptr)
+        return RaiseError(WriterError::NotInitialised);
+    if (text.empty())
+        return true;
+    RunningOperation const running(m_draft);
+    AppendTabs(GetDepth());
+    m_draft.text += "<!--";
+    Internal::AppendEscaped(m_draft.text, text);
+    m_draft.text += "-->\n";
+    SendDraft();
+    return true;
+}
+
+bool XMLWriter::FinishWriting()
+{
+    if (!Admit(Operation::Finish))
+        return false;
+    m_state = Uninitialised;
+    return true;
+}
+
+WriterError XMLWriter::GetLastError() const
+{
+    return m_error;
+}
+
+bool XMLWriter::RequireIdle()
+{
+    return m_draft.phase == Phase::Idle || RaiseError(WriterError::NestedOperation);
+}
+
+bool XMLWriter::Admit(Operation operation)
+{
+    if (m_state == Failed || !RequireIdle())
+        return false;
+    WriterError::ResultCode const refusal = c_refusals[static_cast<unsigned int>(operation)][m_state];
+    return refusal == WriterError::Ok || RaiseError(refusal);
+}
+
+// The first error stays. Always false, as the answer of the operation.
+bool XMLWriter::RaiseError(WriterError::ResultCode code)
+{
+    if (m_state != Failed)
+        m_error.RaiseError(code, -1, -1);
+    m_state = Failed;
+    return false;
+}
+
+template <class AppendValue>
+bool XMLWriter::WriteInternalContentValue(std::string const& name, AppendValue const& appendValue, bool isEmpty,
+                                          AttributeWriter const& attributes)
+{
+    if (!Admit(Operation::Content))
+        return false;
+    RunningOperation const running(m_draft);
+    std::size_t const nameStart = GetDepth() + 1;
+    std::size_t const nameSize = name.size();
+    AppendStartTag(name);
+    if (!AppendAttributes(attributes))
+        return false;
+    if (isEmpty)
+        m_draft.text += "/>\n";
+    else
+    {
+        m_draft.text += '>';
+        appendValue();
+        // From the start tag, since the attribute writer may have changed `name`.
+        m_draft.text.append("</").append(m_draft.text, nameStart, nameSize).append(">\n");
+    }
+    SendDraft();
+    return true;
+}
+
+bool XMLWriter::WriteText(std::string const& name, std::string_view value, AttributeWriter const& attributes)
+{
+    return WriteInternalContentValue(
+        name, [&] { Internal::AppendEscaped(m_draft.text, value); }, value.empty(), attributes);
+}
+
+template <class Number>
+bool XMLWriter::WriteNumber(std::string const& name, Number value, AttributeWriter const& attributes)
+{
+    return WriteInternalContentValue(
+        name, [&] { Internal::AppendNumber(m_draft.text, *m_stream, value); }, false, attributes);
+}
+
+void XMLWriter::AppendTabs(std::size_t count)
+{
+    m_draft.text.append(count, '\t');
+}
+
+void XMLWriter::AppendStartTag(std::string const& name)
+{
+    AppendTabs(GetDepth());
+    m_draft.text += '<';
+    m_draft.text += name;
+}
+
+// False when an attribute was refused; what stands before it goes out then, as far as the tag came.
+bool XMLWriter::AppendAttributes(AttributeWriter const& attributes)
+{
+    m_draft.phase = Phase::Attributes;
+    attributes([this](std::string const& name, std::string const& value) { EmitAttribute(name, value); });
+    m_draft.phase = Phase::Running;
+    if (m_state != Failed)
+        return true;
+    SendDraft();
+    return false;
+}
+
+void XMLWriter::EmitAttribute(std::string const& name, std::string const& value)
+{
+    if (m_draft.phase != Phase::Attributes)
+        RaiseError(WriterError::NestedOperation);
+    else if (name.empty())
+        RaiseError(WriterError::EmptyName);
+    else
+    {
+        m_draft.text.append(1, ' ').append(name).append("=\"");
+        Internal::AppendEscaped(m_draft.text, value);
+        m_draft.text += '"';
+    }
+}
+
+void XMLWriter::SendDraft()
+{
+    if (!m_draft.text.empty())
+        m_stream->write(m_draft.text.data(), static_cast<std::streamsize>(m_draft.text.size()));
+}
+
+} // namespace Vek::Framework::IXMLStreamer::Native

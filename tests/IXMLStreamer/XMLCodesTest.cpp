@@ -1,0 +1,67 @@
+#include <IXMLStreamer/XMLCodes.h>
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+using namespace Vek::Framework::IXMLStreamer::Native;
+
+namespace
+{
+
+bool HasCode(int byte)
+{
+    return std::string("\n\r\"&'<>").find(static_cast<char>(byte)) != std::string::npos || byte == 128 ||
+           (byte >= 161 && byte != 173);
+}
+
+} // namespace
+
+TEST(XMLCodes, EveryByteGoesToItsNameAndBack)
+{
+    std::set<std::string> names;
+    for (int byte = 0; byte < 256; ++byte)
+    {
+        SCOPED_TRACE(byte);
+        char const* const name = XMLCodes::FindCode(static_cast<char>(byte));
+        ASSERT_EQ(byte != 0 && HasCode(byte), name != nullptr);
+        if (name == nullptr)
+            continue;
+        char symbol = 'x';
+        EXPECT_TRUE(XMLCodes::FindSymbol(name, symbol));
+        EXPECT_EQ(static_cast<char>(byte), symbol);
+        names.insert(name);
+    }
+    EXPECT_EQ(102U, names.size());
+}
+
+TEST(XMLCodes, NamesStandAtTheirBytes)
+{
+    struct Row
+    {
+        char byte;
+        char const* name;
+    };
+    // Both ends of every run of the table.
+    Row const rows[] = { { '\n', "#10" },     { '\r', "#13" },     { '<', "lt" },        { '>', "gt" },
+                         { '&', "amp" },      { '\'', "apos" },    { '"', "quot" },      { '\241', "iexcl" },
+                         { '\254', "not" },   { '\256', "reg" },   { '\277', "iquest" }, { '\300', "Agrave" },
+                         { '\327', "times" }, { '\337', "szlig" }, { '\367', "divide" }, { '\377', "yuml" },
+                         { '\200', "euro" } };
+    for (Row const& row : rows)
+        EXPECT_STREQ(row.name, XMLCodes::FindCode(row.byte));
+}
+
+TEST(XMLCodes, OnlyWholeNamesInTheirCaseAreFound)
+{
+    for (std::string const& code : { std::string(), std::string("AMP"), std::string("am"), std::string("amp;"),
+                                     std::string("amp\0", 4), std::string("\0amp", 4), std::string("nbsp"),
+                                     std::string("#65"), std::string("Agraves"), std::string(1000, 'a') })
+    {
+        SCOPED_TRACE(code);
+        char symbol = 'x';
+        EXPECT_FALSE(XMLCodes::FindSymbol(code, symbol));
+        EXPECT_EQ('x', symbol);
+    }
+}

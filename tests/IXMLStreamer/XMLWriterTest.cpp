@@ -1,0 +1,251 @@
+#include <IXMLStreamer/XMLWriter.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <sstream>
+#include <stdexcept>
+#include <streambuf>
+#include <string>
+#include <vector>
+
+using namespace Vek::Framework::IXMLStreamer::Native;
+
+namespace
+{
+
+using Emitter = XMLWriter::AttributeEmitter;
+using Step = std::function<bool(XMLWriter&)>;
+
+/// Takes nothing.
+class FullBuffer : public std::streambuf
+{
+};
+
+void None(Emitter const&)
+{
+}
+
+bool Begin(XMLWriter& writer)
+{
+    return writer.WriteBeginStructure("a", None);
+}
+
+bool End(XMLWriter& writer)
+{
+    return writer.WriteEndStructure();
+}
+
+bool Content(XMLWriter& writer)
+{
+    return writer.WriteContentValue("b", 1, None) && writer.WriteContent("b", None);
+}
+
+bool Comment(XMLWriter& writer)
+{
+    return writer.WriteComment("c");
+}
+
+bool Finish(XMLWriter& writer)
+{
+    return writer.FinishWriting();
+}
+
+} // namespace
+
+TEST(XMLWriter, OperationsInEveryState)
+{
+    constexpr int c_done = -1;   // true, no error
+    constexpr int c_failed = -2; // false, without an error of its own
+    struct Row
+    {
+        Step operation;
+        char const* name;
+        int outcome[6]; // c_done, c_failed or the code of the error
+    };
+    // States: failed, never started, finished, started, open, closed.
+    Row const rows[] = {
+        { Begin, "begin", { c_failed, 3, 3, c_done, c_done, 2 } },
+        { End, "end", { c_failed, 3, 3, 1, c_done, 6 } },
+        { Content, "content", { c_failed, 3, 3, 4, c_done, 2 } },
+        { Comment, "comment", { c_failed, 3, c_done, c_done, c_done, c_done } },
+        { Finish, "finish", { c_failed, 3, 3, 1, 5, c_done } },
+    };
+    std::ostringstream stream;
+    Step const start = [&stream](XMLWriter& writer) { return writer.StartWriting(stream, false); };
+    Step const failing = [](XMLWriter& writer) { return !End(writer); };
+    std::vector<Step> const preparations[] = {
+        { start, failing }, {}, { start, Begin, End, Finish }, { start }, { start, Begin }, { start, Begin, End }
+    };
+    for (Row const& row : rows)
+        for (int state = 0; state < 6; ++state)
+        {
+            SCOPED_TRACE(row.name + std::to_string(state));
+            stream.str("");
+            XMLWriter writer;
+            for (Step const& step : preparations[state])
+                EXPECT_TRUE(step(writer));
+
+            std::string const before = stream.str();
+            int const expected = row.outcome[state];
+            int const code = expected >= 0 ? expected : state == 0 ? 1 : 0;
+            EXPECT_EQ(expected == c_done, row.operation(writer));
+            EXPECT_EQ(code, static_cast<int>(writer.GetLastError().GetErrorCode()));
+            EXPECT_EQ(-1, writer.GetLastError().GetLine());
+            EXPECT_EQ(-1, writer.GetLastError().GetColumn());
+            if (code == 0)
+                continue;
+            EXPECT_FALSE(Comment(writer)); // failed for good
+            EXPECT_EQ(before, stream.str());
+            EXPECT_TRUE(writer.StartWriting(stream, true) && Begin(writer) && End(writer) && Finish(writer));
+            EXPECT_EQ(before + "<?xml version=\"1.0\"?>\n<a>\n</a>\n", stream.str());
+        }
+}
+
+TEST(XMLWriter, Layout)
+{
+    std::ostringstream stream;
+    XMLWriter writer;
+    EXPECT_TRUE(writer.StartWriting(stream, true));
+    EXPECT_TRUE(writer.WriteComment("1 < 2 -->"));
+    EXPECT_TRUE(writer.WriteComment(""));
+    EXPECT_TRUE(writer.WriteBeginStructure("A", [](Emitter emit) { emit("a", "a\"b"), emit("<", ""); }));
+    EXPECT_TRUE(writer.WriteContentValue("B", "x<y\r\n", None));
+    EXPECT_TRUE(writer.WriteContentValue("C&", "", [](Emitter const& emit) { emit("a", "1"); }));
+    EXPECT_TRUE(writer.WriteBeginStructure("longer", None));
+    EXPECT_TRUE(writer.WriteContent("", None));
+    EXPECT_TRUE(writer.WriteContentValue("null", static_cast<char const*>(nullptr), None));
+    EXPECT_TRUE(writer.WriteComment("deep"));
+    EXPECT_TRUE(writer.WriteEndStructure());
+    EXPECT_TRUE(writer.WriteEndStructure());
+    EXPECT_TRUE(writer.FinishWriting());
+    EXPECT_TRUE(writer.WriteComment("behind"));
+    EXPECT_EQ("<?xml version=\"1.0\"?>\n"
+              "<!--1 &lt; 2 --&gt;-->\n"
+              "<A a=\"a&quot;b\" <=\"\">\n"
+              "\t<B>x&lt;y&#13;&#10;</B>\n"
+              "\t<C& a=\"1\"/>\n"
+              "\t<longer>\n"
+              "\t\t</>\n"
+              "\t\t<null/>\n"
+              "\t\t<!--deep-->\n"
+              "\t</longer>\n"
+              "</A>\n"
+              "<!--behind-->\n",
+              stream.str());
+}
+
+TEST(XMLWriter, RefusedAttributeOrNameFailsTheWriter)
+{
+    auto const emptyName = [](Emitter const& emit) { emit("a", "1"), emit("", "2"), emit("c", "3"); };
+    struct Row
+    {
+        char const* why;
+        Step operation;
+        char const* written;
+    };
+    Row const rows[] = {
+        { "structure", [&](XMLWriter& w) { return w.WriteBeginStructure("b", emptyName); }, "\t<b a=\"1\" c=\"3\"" },
+        { "value", [&](XMLWriter& w) { return w.WriteContentValue("b", 5, emptyName); }, "\t<b a=\"1\" c=\"3\"" },
+        { "no value", [&](XMLWriter& w) { return w.WriteContent("b", emptyName); }, "\t<b a=\"1\" c=\"3\"" },
+        { "structure without name", [&](XMLWriter& w) { return w.WriteBeginStructure("", emptyName); }, "" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        std::ostringstream stream;
+        XMLWriter writer;
+        EXPECT_TRUE(writer.StartWriting(stream, false) && Begin(writer));
+        EXPECT_FALSE(row.operation(writer));
+        EXPECT_EQ(WriterError::EmptyName, writer.GetLastError().GetErrorCode());
+        EXPECT_STREQ("", writer.GetLastError().GetDescription());
+        EXPECT_FALSE(End(writer));
+        EXPECT_EQ(std::string("<a>\n") + row.written, stream.str());
+    }
+}
+
+TEST(XMLWriter, OperationInsideAnotherFailsTheWriter)
+{
+    std::ostringstream stream;
+    XMLWriter writer;
+    Emitter kept;
+    auto const restart = [&stream](XMLWriter& w) { return w.StartWriting(stream, true); };
+    for (Step const& operation : { Step(Begin), Step(End), Step(Content), Step(Comment), Step(Finish), Step(restart) })
+    {
+        stream.str("");
+        EXPECT_TRUE(writer.StartWriting(stream, false) && Begin(writer));
+        EXPECT_FALSE(writer.WriteContent("b", [&](Emitter const&) { EXPECT_FALSE(operation(writer)); }));
+        EXPECT_EQ(WriterError::NestedOperation, writer.GetLastError().GetErrorCode());
+        EXPECT_EQ("<a>\n\t<b", stream.str());
+    }
+    EXPECT_TRUE(writer.StartWriting(stream, false) && Begin(writer));
+    EXPECT_FALSE(writer.WriteContent("b", [&](Emitter const&) { writer = XMLWriter(); }));
+
+    EXPECT_TRUE(writer.StartWriting(stream, false));
+    EXPECT_TRUE(writer.WriteBeginStructure("a", [&](Emitter const& emit) { kept = emit; }));
+    kept("late", "");
+    EXPECT_EQ(WriterError::NestedOperation, writer.GetLastError().GetErrorCode());
+}
+
+TEST(XMLWriter, ExceptionOfAnAttributeWriterLeavesTheWriterAsItWas)
+{
+    std::ostringstream stream;
+    XMLWriter writer;
+    auto const fail = [](Emitter const& emit) { emit("a", "1"), throw std::runtime_error("x"); };
+    EXPECT_TRUE(writer.StartWriting(stream, false));
+    EXPECT_THROW(writer.WriteBeginStructure("a", fail), std::runtime_error);
+    EXPECT_TRUE(Begin(writer));
+    EXPECT_THROW(writer.WriteContentValue("b", "x", fail), std::runtime_error);
+    EXPECT_THROW(writer.WriteContent("b", nullptr), std::bad_function_call);
+    EXPECT_TRUE(Content(writer) && End(writer) && Finish(writer));
+    EXPECT_EQ("<a>\n\t<b>1</b>\n\t<b/>\n</a>\n", stream.str());
+}
+
+TEST(XMLWriter, EndTagHasTheNameOfItsStartTag)
+{
+    std::ostringstream stream;
+    XMLWriter writer;
+    std::string name = "first";
+    auto const rename = [&name](Emitter const&) { name = "a much longer name than that"; };
+    EXPECT_TRUE(writer.StartWriting(stream, false));
+    EXPECT_TRUE(writer.WriteBeginStructure(name, rename));
+    name = "second";
+    EXPECT_TRUE(writer.WriteContentValue(name, "x", rename));
+    EXPECT_TRUE(End(writer));
+    EXPECT_EQ("<first>\n\t<second>x</second>\n</first>\n", stream.str());
+}
+
+TEST(XMLWriter, FailedStreamIsTheStreamsToReport)
+{
+    std::ostringstream stream;
+    XMLWriter writer;
+    stream.setstate(std::ios::failbit);
+    EXPECT_FALSE(writer.StartWriting(stream, true));
+    EXPECT_EQ(WriterError::Ok, writer.GetLastError().GetErrorCode());
+    EXPECT_FALSE(Begin(writer));
+
+    stream.clear();
+    EXPECT_TRUE(writer.StartWriting(stream, false));
+    stream.setstate(std::ios::badbit);
+    EXPECT_TRUE(Begin(writer) && Content(writer) && End(writer) && Finish(writer));
+    EXPECT_EQ("", stream.str());
+
+    FullBuffer full;
+    std::ostream throwing(&full);
+    throwing.exceptions(std::ios::badbit);
+    EXPECT_TRUE(writer.StartWriting(throwing, false));
+    EXPECT_THROW(Begin(writer), std::ios::failure);
+    throwing.exceptions(std::ios::goodbit);
+    EXPECT_TRUE(End(writer) && Finish(writer)); // the element counts as begun
+}
+
+TEST(XMLWriter, CopyGoesOnFromTheSamePlace)
+{
+    std::ostringstream stream;
+    XMLWriter writer;
+    EXPECT_TRUE(writer.StartWriting(stream, false) && Begin(writer));
+    XMLWriter copy(writer);
+    EXPECT_TRUE(Begin(writer) && End(copy) && Finish(copy) && End(writer) && End(writer));
+    EXPECT_TRUE(Finish(writer));
+    EXPECT_EQ("<a>\n\t<a>\n</a>\n\t</a>\n</a>\n", stream.str());
+}
