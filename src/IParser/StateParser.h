@@ -15,8 +15,7 @@ namespace Vek::Framework::IParser::Native
 /// and the text between them, to their consumers.
 ///
 /// Text:     the text before a token goes to the state's number or text consumer, then the token to its own. If the
-/// text
-///           consumer switches the state, the token is recognised again with the tokens of the new state.
+///           text consumer switches the state, the token is recognised again with the tokens of the new state.
 /// Place:    position, line and column move over a text or a token once its consumer agreed, so that a failed run
 ///           names the first character of what its consumer refused.
 /// Cost:     linear in the source for tokens of bounded length. Memory: the longest text between two tokens and, when

@@ -1,6 +1,7 @@
 #include <IParser/Internal/SourceBuffer.h>
 
 #include <cstring>
+#include <exception>
 
 namespace Vek::Framework::IParser::Native::Internal
 {
@@ -63,10 +64,14 @@ bool SourceBuffer::ReadOn()
     return count != 0;
 }
 
-// What an unformatted read does: a stream buffer that throws makes the stream bad, and the exception goes on only
-// if the host asked for that.
+// What an unformatted read does: it flushes a tied output first; a stream buffer that throws makes the stream bad, and
+// the exception goes on if the host asked for that. So does the unwinding of a cancelled thread, which is no exception
+// that one could hold and which no handler may end.
 std::size_t SourceBuffer::ReadChunk()
 {
+    std::istream::sentry const ready(*m_stream, true);
+    if (!ready)
+        return 0;
     char* const target = m_memory.get() + (m_end - m_begin);
     try
     {
@@ -75,13 +80,22 @@ std::size_t SourceBuffer::ReadChunk()
     catch (...)
     {
         m_isAtEnd = true;
-        std::ios_base::iostate const wanted = m_stream->exceptions();
-        m_stream->exceptions(std::ios_base::goodbit);
-        m_stream->setstate(std::ios_base::badbit);
-        if ((wanted & std::ios_base::badbit) != 0)
+        SetBad();
+        if ((m_stream->exceptions() & std::ios_base::badbit) != 0 || std::current_exception() == nullptr)
             throw;
-        m_stream->exceptions(wanted);
         return 0;
+    }
+}
+
+void SourceBuffer::SetBad()
+{
+    try
+    {
+        m_stream->setstate(std::ios_base::badbit);
+    }
+    catch (std::ios_base::failure const&)
+    {
+        // The bit is set; what the host is to see is the stream buffer's own exception.
     }
 }
 

@@ -39,6 +39,7 @@ public:
 
 private:
     std::size_t ReadChunk();
+    void SetBad();
 
     std::istream* m_stream = nullptr;
     std::size_t m_chunk = 0;
