@@ -1,0 +1,190 @@
+#include "GrammarParser.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using namespace StateParserTests;
+using Params = State::ResultParams;
+
+namespace
+{
+
+constexpr std::size_t c_block = 1 << 20;
+
+/// Hands out "a<" and fails then.
+class FailingBuffer : public std::streambuf
+{
+    int_type underflow() override
+    {
+        if (m_next == std::end(m_text))
+            throw std::runtime_error("disk");
+        setg(m_next, m_next, m_next + 1);
+        return traits_type::to_int_type(*m_next++);
+    }
+
+    char m_text[2] = { 'a', '<' };
+    char* m_next = m_text;
+};
+
+/// Counts how often it is flushed.
+struct FlushCounter : std::stringbuf
+{
+    int sync() override { return ++count, 0; }
+    int count = 0;
+};
+
+/// A parser of one state that notes where its texts and tokens begin, and stops at "!".
+struct Places
+{
+    Places()
+    {
+        state.RegisterTextConsumer(
+            [this](std::string const& text, Params& params)
+            { trace += std::to_string(text.size()) + " chars @" + std::to_string(params.position) + ";"; });
+        state.RegisterEndOfSourceConsumer([this](Params& params)
+                                          { trace += "end @" + std::to_string(params.position) + ";"; });
+        for (char const* const token : { "<", "<=+>" })
+            state.RegisterTokenConsumer(
+                token,
+                [this, token](Params& params) { trace += token + (" @" + std::to_string(params.position) + ";"); },
+                State::CaseSensitive);
+        state.RegisterTokenConsumer(
+            "!", [](Params& params) { params.stop = true; }, State::CaseSensitive);
+    }
+
+    StateParser parser;
+    State& state = *parser.RegisterState(1, StateParser::KeepWhiteSpace);
+    std::string trace;
+};
+
+} // namespace
+
+TEST(StateParserStream, ATokenMayStraddleABlockAtEveryByte)
+{
+    for (std::size_t start = c_block - 5; start <= c_block + 1; ++start)
+        for (bool const isWhole : { true, false })
+        {
+            SCOPED_TRACE(start);
+            std::string source(start, 'a');
+            source[10] = '\n';
+            std::istringstream stream(source + (isWhole ? "<=+>bc" : "<=+bcd"));
+            Places places;
+            EXPECT_TRUE(places.parser.ProcessSource(stream, true));
+            std::string const at = " @" + std::to_string(start);
+            std::string const rest = isWhole ? "<=+>" + at + ";2 chars @" + std::to_string(start + 4)
+                                             : "<" + at + ";5 chars @" + std::to_string(start + 1);
+            EXPECT_EQ(std::to_string(start) + " chars @0;" + rest + ";end @" + std::to_string(start + 6) + ";",
+                      places.trace);
+            EXPECT_EQ(2, places.parser.GetParserResult().line);
+            EXPECT_EQ(start + 6 - 10, static_cast<std::size_t>(places.parser.GetParserResult().column));
+        }
+}
+
+TEST(StateParserStream, ATextMayBeLongerThanManyBlocks)
+{
+    std::string source = "x<";
+    for (int line = 0; source.size() < 3 * c_block + 77; ++line)
+        source += std::string(static_cast<std::size_t>(line % 100), 'y') + "\n";
+    std::size_t const textSize = source.size() - 2;
+    int const lines = static_cast<int>(std::count(source.begin(), source.end(), '\n'));
+    for (bool const isTaken : { true, false })
+    {
+        Places places;
+        if (!isTaken)
+            places.state.RegisterTextConsumer({});
+        places.state.RegisterInvalidToken("z", State::CaseSensitive);
+        std::istringstream stream(source + "<zz");
+        EXPECT_FALSE(places.parser.ProcessSource(stream, true));
+        std::string const tokens = "< @1;|< @" + std::to_string(textSize + 2) + ";";
+        std::size_t const bar = tokens.find('|');
+        EXPECT_EQ((isTaken ? "1 chars @0;" : "") + tokens.substr(0, bar) +
+                      (isTaken ? std::to_string(textSize) + " chars @2;" : "") + tokens.substr(bar + 1),
+                  places.trace);
+        EXPECT_EQ(lines + 1, places.parser.GetParserResult().line);
+        EXPECT_EQ(2, places.parser.GetParserResult().column);
+    }
+}
+
+TEST(StateParserStream, ARefusedLongTextIsWhereItBegins)
+{
+    Places places;
+    places.state.RegisterTextConsumer([](std::string const&, Params& params) { params.isSyntaxError = true; });
+    std::istringstream stream("\n" + std::string("<") + std::string(2 * c_block, '\n'));
+    places.state.RegisterSkipToken("\n<", State::CaseSensitive);
+    EXPECT_FALSE(places.parser.ProcessSource(stream, true));
+    EXPECT_EQ(2, places.parser.GetParserResult().line);
+    EXPECT_EQ(2, places.parser.GetParserResult().column);
+}
+
+TEST(StateParserStream, ByCharacterReadsNoFurtherThanRecognitionNeeds)
+{
+    struct
+    {
+        char const* source;
+        char const* rest;
+        char const* why;
+    } const rows[] = {
+        { "ab!cd", "cd", "a token that nothing goes on from" },
+        { "!", "", "the end is not looked for" },
+        { "a-->bc", "bc", "the longest token" },
+        { "a--bc", "c", "one byte tells that it is the shorter one" },
+    };
+    for (auto const& row : rows)
+    {
+        Places places;
+        auto const stop = [](Params& params) { params.stop = true; };
+        places.state.RegisterTokenConsumer("--", stop, State::CaseSensitive);
+        places.state.RegisterTokenConsumer("-->", stop, State::CaseInsensitive);
+        std::istringstream stream(row.source);
+        EXPECT_TRUE(places.parser.ProcessSource(stream, false));
+        EXPECT_TRUE(stream.good());
+        std::string rest;
+        std::getline(stream, rest);
+        EXPECT_EQ(row.rest, rest) << row.why;
+    }
+}
+
+TEST(StateParserStream, TheEndIsNoFailureOfTheStream)
+{
+    for (bool const useBlockBuffer : { true, false })
+    {
+        Places places;
+        std::istringstream stream("a<b");
+        stream.exceptions(std::ios_base::failbit | std::ios_base::badbit);
+        EXPECT_TRUE(places.parser.ProcessSource(stream, useBlockBuffer));
+        EXPECT_TRUE(stream.eof());
+        EXPECT_FALSE(stream.fail());
+        EXPECT_TRUE(places.parser.ProcessSource(stream, useBlockBuffer));
+        EXPECT_EQ("1 chars @0;< @1;1 chars @2;end @3;end @0;", places.trace) << "not good counts as ended";
+    }
+}
+
+TEST(StateParserStream, AStreamThatFailsIsBadAndThrowsIfAskedTo)
+{
+    for (bool const throws : { false, true })
+    {
+        Places places;
+        FailingBuffer buffer;
+        std::istream stream(&buffer);
+        stream.exceptions(throws ? std::ios_base::badbit : std::ios_base::goodbit);
+        if (throws)
+            EXPECT_THROW(places.parser.ProcessSource(stream, false), std::runtime_error);
+        else
+            EXPECT_TRUE(places.parser.ProcessSource(stream, false));
+        EXPECT_TRUE(stream.bad());
+        EXPECT_EQ(throws ? std::ios_base::badbit : std::ios_base::goodbit, stream.exceptions());
+        EXPECT_EQ(throws ? "" : "1 chars @0;< @1;end @2;", places.trace);
+    }
+}
+
+TEST(StateParserStream, AReadShowsThePromptThatIsTiedToIt)
+{
+    Places places;
+    FlushCounter flushes;
+    std::ostream output(&flushes);
+    std::istringstream stream("a!");
+    stream.tie(&output);
+    EXPECT_TRUE(places.parser.ProcessSource(stream, false));
+    EXPECT_GT(flushes.count, 0);
+}

@@ -1,0 +1,190 @@
+#include "GrammarParser.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+
+using namespace StateParserTests;
+
+namespace
+{
+
+Reaction const c_go{ Reaction::Continue };
+Reaction const c_refuse{ Reaction::Refuse };
+
+TokenRule Call(char const* text, Reaction reaction = c_go)
+{
+    return { text, true, TokenRule::Call, reaction };
+}
+
+TokenRule CallAnyCase(char const* text)
+{
+    return { text, false, TokenRule::Call, c_go };
+}
+
+Reaction To(unsigned int state)
+{
+    return { Reaction::Switch, state };
+}
+
+struct Row
+{
+    char const* why;
+    Grammar grammar;
+    std::string source;
+    std::string trace;
+};
+
+void ExpectInEveryMode(std::vector<Row> const& rows)
+{
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        GrammarParser parser(row.grammar);
+        EXPECT_EQ(row.trace, parser.RunString(row.source)) << "string";
+        EXPECT_EQ(row.trace, parser.RunStream(row.source, false)) << "by character";
+        EXPECT_EQ(row.trace, parser.RunStream(row.source, true, 1, true)) << "by block, in pieces";
+    }
+}
+
+} // namespace
+
+TEST(StateParser, RecognisesTokens)
+{
+    StateRules const comparison{ .tokens = { Call("<"), Call("<=") }, .text = c_go };
+    StateRules const prefixes{ .tokens = { Call("a"), Call("abc") }, .text = c_go };
+    StateRules const bothCases{ .tokens = { Call("Ab"), CallAnyCase("aB"), CallAnyCase("ABC") }, .text = c_go };
+    ExpectInEveryMode({
+        { "the longest token wins",
+          { comparison },
+          "a<=b<",
+          "text 'a' @0 in 7\ntoken '<=' @1 in 7\ntext 'b' @3 in 7\ntoken '<' @4 in 7\n-> 0 in 7 at 1:6\n" },
+        { "what was read behind a token is read again",
+          { prefixes },
+          "abaabc",
+          "token 'a' @0 in 7\ntext 'b' @1 in 7\ntoken 'a' @2 in 7\ntoken 'abc' @3 in 7\n-> 0 in 7 at 1:7\n" },
+        { "at the end, too, until nothing is left",
+          { prefixes },
+          "abab",
+          "token 'a' @0 in 7\ntext 'b' @1 in 7\ntoken 'a' @2 in 7\ntext 'b' @3 in 7\n-> 0 in 7 at 1:5\n" },
+        { "the token that begins first wins over one found earlier",
+          { { .tokens = { Call("b"), Call("abcd") }, .text = c_go } },
+          "abcdabc",
+          "token 'abcd' @0 in 7\ntext 'a' @4 in 7\ntoken 'b' @5 in 7\ntext 'c' @6 in 7\n-> 0 in 7 at 1:8\n" },
+        { "of equal tokens the one with case wins, otherwise the longer one",
+          { bothCases },
+          "AbaBAbc",
+          "token 'Ab' @0 in 7\ntoken 'aB' @2 in 7\ntoken 'ABC' @4 in 7\n-> 0 in 7 at 1:8\n" },
+        { "a node that both cases share belongs to one of them",
+          { { .tokens = { Call("ab"), CallAnyCase("abc") }, .text = c_go } },
+          "ABab",
+          "text 'AB' @0 in 7\ntoken 'ab' @2 in 7\n-> 0 in 7 at 1:5\n" },
+        { "only ASCII is folded",
+          { { .tokens = { CallAnyCase("\304END") }, .text = c_go } },
+          "\344end\304eNd",
+          "text '\\344end' @0 in 7\ntoken '\\304END' @4 in 7\n-> 0 in 7 at 1:9\n" },
+        { "zero is a byte like any other",
+          { { .tokens = { { std::string("\0<", 2) } }, .text = c_go } },
+          std::string("\0\0<\0", 4),
+          "text '\\0' @0 in 7\ntoken '\\0<' @1 in 7\ntext '\\0' @3 in 7\n-> 0 in 7 at 1:5\n" },
+        { "blanks part words",
+          { { .text = c_go, .skipsBlanks = true } },
+          " a\tb\r\nc ",
+          "text 'a' @1 in 7\ntext 'b' @3 in 7\ntext 'c' @6 in 7\n-> 0 in 7 at 2:3\n" },
+    });
+}
+
+TEST(StateParser, SwitchesAndEnds)
+{
+    Reaction const stop{ Reaction::Stop };
+    StateRules const ending{ .tokens = { Call("<") }, .text = c_go, .end = c_refuse };
+    ExpectInEveryMode({
+        { "a text consumer's switch makes the new state recognise the token",
+          { { .tokens = { Call("<=") }, .text = To(1) }, { .tokens = { Call("<"), Call("=") }, .text = c_go } },
+          "a<=",
+          "text 'a' @0 in 7\ntoken '<' @1 in 1007\ntoken '=' @2 in 1007\n-> 0 in 1007 at 1:4\n" },
+        { "a token consumer's switch",
+          { { .tokens = { Call("<", To(1)) } }, { .text = c_go } },
+          "<<",
+          "token '<' @0 in 7\ntext '<' @1 in 1007\n-> 0 in 1007 at 1:3\n" },
+        { "the state after the trailing text sees the end",
+          { { .text = To(1), .end = c_refuse }, { .end = c_go } },
+          "a\nb",
+          "text 'a\\12b' @0 in 7\nend @3 in 1007\n-> 0 in 1007 at 2:2\n" },
+        { "an empty source has an end", { ending }, "", "end @0 in 7\n-> 2 in 7 at 1:1\n" },
+        { "a refused end is where the source ends",
+          { ending },
+          "<\n<\nab",
+          "token '<' @0 in 7\ntext '\\12' @1 in 7\ntoken '<' @2 in 7\ntext '\\12ab' @3 in 7\nend @6 in 7\n"
+          "-> 2 in 7 at 3:3\n" },
+        { "a refused text is where it begins",
+          { { .tokens = { Call("<") }, .text = c_refuse } },
+          "<\n\txy\n<",
+          "token '<' @0 in 7\ntext '\\12\\11xy\\12' @1 in 7\n-> 2 in 7 at 1:2\n" },
+        { "an invalid token is where it begins; tab and return are columns",
+          { { .tokens = { { "!!", true, TokenRule::Invalid } }, .text = c_go } },
+          "a\r\n\t\r!!",
+          "text 'a\\15\\12\\11\\15' @0 in 7\n-> 2 in 7 at 2:3\n" },
+        { "a stop is no failure",
+          { { .tokens = { Call("<", stop) }, .end = c_go } },
+          "\n<<",
+          "token '<' @1 in 7\n-> 0 in 7 at 2:1\n" },
+        { "nor with a refusal beside it",
+          { { .tokens = { Call("<", { Reaction::StopAndRefuse }) }, .end = c_go } },
+          "<<",
+          "token '<' @0 in 7\n-> 0 in 7 at 1:1\n" },
+        { "text that nobody takes is dropped",
+          { { .tokens = { Call("<") }, .number = c_go } },
+          "a<1",
+          "token '<' @1 in 7\nnumber 1.000000 @2 in 7\n-> 0 in 7 at 1:4\n" },
+    });
+}
+
+TEST(StateParser, TellsNumbersFromTexts)
+{
+    struct
+    {
+        std::string text;
+        char const* number; // null for a text
+    } const rows[] = {
+        { "12.5", "12.500000" },
+        { "12.5x", nullptr },
+        { " 12", "12.000000" },
+        { "12 ", nullptr },
+        { "-1e2", "-100.000000" },
+        { "1e", nullptr },
+        { "0x10", "16.000000" },
+        { "-", nullptr },
+        { "1e999", nullptr },
+        { "1e-999", nullptr },
+        { std::string("1\0", 2), nullptr },
+    };
+    for (auto const& row : rows)
+        for (bool const isTextView : { false, true })
+        {
+            SCOPED_TRACE(Quoted(row.text));
+            GrammarParser parser({ { .text = c_go, .number = c_go, .isTextView = isTextView } });
+            std::string const what =
+                row.number != nullptr ? std::string("number ") + row.number : "text " + Quoted(row.text);
+            EXPECT_EQ(what + " @0 in 7\n-> 0 in 7 at 1:" + std::to_string(row.text.size() + 1) + "\n",
+                      parser.RunString(row.text));
+        }
+}
+
+TEST(StateParser, NumbersFollowTheCurrentLocale)
+{
+    std::string const before = std::setlocale(LC_NUMERIC, nullptr);
+    for (char const* const locale : { "C", "German_Germany.1252", "de_DE.UTF-8" })
+    {
+        if (std::setlocale(LC_NUMERIC, locale) == nullptr)
+            continue; // not every machine has the German one
+        bool const isComma = std::localeconv()->decimal_point == std::string(",");
+        StateParser parser;
+        State& state = *parser.RegisterState(1, StateParser::SkipWhiteSpace);
+        std::vector<double> numbers;
+        state.RegisterNumberConsumer([&](double number, State::ResultParams&) { numbers.push_back(number); });
+        EXPECT_TRUE(parser.ProcessSource("1.5 2,5"));
+        EXPECT_EQ(std::vector<double>{ isComma ? 2.5 : 1.5 }, numbers) << locale;
+    }
+    std::setlocale(LC_NUMERIC, before.c_str());
+}
