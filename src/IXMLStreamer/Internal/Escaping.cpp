@@ -52,7 +52,8 @@ unsigned int FindCandidates(char const* block)
     return static_cast<unsigned int>(_mm_movemask_epi8(hits));
 }
 
-char const* FindEscaped(char const* at, char const* end)
+// `begin` is where the text begins, which may lie before `at`.
+char const* FindEscaped(char const* begin, char const* at, char const* end)
 {
     while (end - at >= c_blockSize)
     {
@@ -67,6 +68,9 @@ char const* FindEscaped(char const* at, char const* end)
             return at;
         ++at;
     }
+    if (end - begin >= c_blockSize) // the last whole block, without what is behind us
+        if (FindCandidates(end - c_blockSize) >> (c_blockSize - (end - at)) == 0)
+            return end;
     return std::find_if(at, end, IsEscaped);
 }
 
@@ -74,11 +78,12 @@ char const* FindEscaped(char const* at, char const* end)
 
 void AppendEscaped(std::string& target, std::string_view text)
 {
-    char const* run = text.data();
-    char const* const end = run + text.size();
+    char const* const begin = text.data();
+    char const* const end = begin + text.size();
+    char const* run = begin;
     for (;;)
     {
-        char const* const stop = FindEscaped(run, end);
+        char const* const stop = FindEscaped(begin, run, end);
         target.append(run, stop);
         if (stop == end)
             return;
