@@ -6,10 +6,12 @@
 
 #include <algorithm>
 
-// The short way through plain markup: tags whose attributes are written name="value", and content followed by its own
-// end tag, all in memory. It recognises what the state table would and calls the same consumers, but one construct at a
-// time. Whatever is unusual, incomplete or wrong is left to the state table, untouched, from the construct's start on.
-// That is what a null pointer says here.
+// The short way through plain markup: tags whose attributes are written name="value", text with named codes, and
+// content followed by its own end tag, all in memory. It recognises what the state table would and calls the same
+// consumers, but one construct at a time. Whatever is unusual, incomplete or wrong is left to the state table,
+// untouched, from the construct's start on; that is what a null pointer says here. A construct that is taken in part
+// leaves the rest to the next one, so that no byte is looked at over and over while tokens in between are consumed one
+// by one.
 
 namespace Vek::Framework::IXMLStreamer::Native
 {
@@ -72,33 +74,35 @@ bool XMLStreamer::Reader::Consume(unsigned int state, Params& params, Text const
     return !own.isSyntaxError;
 }
 
-// Appends the text up to the next `stop`, codes decoded; answers where that is. Null when it is
-// not in memory or a code is not one of the named ones; some of the text may be appended then.
+// Appends the text up to `stop`, codes decoded. Answers how far it came: to `stop`, to a code that is left to the state
+// table, or to the start of a text whose end is not in memory.
 template <char stop>
 char const* XMLStreamer::Reader::AppendPlainText(char const* at, char const* end)
 {
-    while (at != nullptr)
+    for (;;)
     {
         char const* const textEnd = FindAny<stop, '&'>(at, end);
         if (textEnd == end)
-            return nullptr;
+            return at;
         m_value.append(at, static_cast<std::size_t>(textEnd - at));
-        if (*textEnd == stop)
+        char const* const next = *textEnd == stop ? nullptr : AppendNamedCode(textEnd, end);
+        if (next == nullptr)
             return textEnd;
-        at = AppendNamedCode(textEnd, end);
+        at = next;
     }
-    return nullptr;
 }
 
 char const* XMLStreamer::Reader::ReadTag(char const* at, char const* end, Params& params)
 {
-    at = FindAny<'<'>(at, end); // the text before it is dropped
-    if (end - at < 2 || at[1] == '!')
+    char const* const tag = FindAny<'<'>(at, end);
+    if (tag != at)
+        return tag; // the text before it is dropped
+    if (end - tag < 2 || tag[1] == '!')
         return nullptr;
-    if (at[1] == '/')
-        return IsEndTag(at, end) ? ReadEndTag(at, end, params) : nullptr;
+    if (tag[1] == '/')
+        return IsEndTag(tag, end) ? ReadEndTag(tag, params) : nullptr;
 
-    char const* const name = at + 1;
+    char const* const name = tag + 1;
     char const* const nameEnd = FindAny<' ', '\t', '\r', '\n', '>', '/'>(name, end);
     if (nameEnd == end || nameEnd == name || (*nameEnd == '/' && (nameEnd + 1 == end || nameEnd[1] != '>')))
         return nullptr;
@@ -117,7 +121,7 @@ bool XMLStreamer::Reader::IsEndTag(char const* at, char const* end) const
            rest.compare(2, name.size(), name) == 0;
 }
 
-char const* XMLStreamer::Reader::ReadEndTag(char const* at, char const*, Params& params)
+char const* XMLStreamer::Reader::ReadEndTag(char const* at, Params& params)
 {
     char const* const tagEnd = at + 2 + m_openElements.GetName().size();
     return Consume<&Reader::EndElement>(EndTagEnd, params) ? tagEnd + 1 : tagEnd;
@@ -146,7 +150,7 @@ char const* XMLStreamer::Reader::ReadAttribute(char const* at, char const* end, 
 
     m_value.clear();
     char const* const valueEnd = AppendPlainText<'"'>(nameEnd + 2, end);
-    if (valueEnd == nullptr)
+    if (valueEnd == end || *valueEnd != '"')
         return nullptr;
     m_attributeName.assign(at, static_cast<std::size_t>(nameEnd - at));
     return Consume<&Reader::EndAttribute>(DoubleQuotedValue, params) ? valueEnd + 1 : valueEnd;
@@ -154,16 +158,12 @@ char const* XMLStreamer::Reader::ReadAttribute(char const* at, char const* end, 
 
 char const* XMLStreamer::Reader::ReadContent(char const* at, char const* end, Params& params)
 {
-    std::size_t const known = m_value.size();
     char const* const contentEnd = AppendPlainText<'<'>(at, end);
-    if (contentEnd == nullptr || !IsEndTag(contentEnd, end))
-    {
-        m_value.resize(known);
-        return nullptr;
-    }
+    if (contentEnd == end || *contentEnd != '<' || !IsEndTag(contentEnd, end))
+        return contentEnd == at ? nullptr : contentEnd;
     if (!Consume<&Reader::EndContent>(Content, params))
         return contentEnd;
-    return ReadEndTag(contentEnd, end, params);
+    return ReadEndTag(contentEnd, params);
 }
 
 char const* XMLStreamer::Reader::AppendNamedCode(char const* at, char const* end)

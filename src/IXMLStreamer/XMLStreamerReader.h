@@ -60,7 +60,7 @@ private:
     char const* ReadPlainMarkup(char const* at, char const* end, Params& params);
     char const* ReadConstruct(char const* at, char const* end, Params& params);
     char const* ReadTag(char const* at, char const* end, Params& params);
-    char const* ReadEndTag(char const* at, char const* end, Params& params);
+    char const* ReadEndTag(char const* at, Params& params);
     char const* ReadStartTagPiece(char const* at, char const* end, Params& params);
     char const* ReadAttribute(char const* at, char const* end, Params& params);
     char const* ReadContent(char const* at, char const* end, Params& params);

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "SettingsText.h"
+
+#include <istream>
+#include <string>
+
+// Each reads a whole settings document, counts what it is told, and throws std::runtime_error for one it refuses.
+// The peers read from memory, which is the best they can do; ours reads from a stream, which is what it offers.
+
+namespace Benchmarks
+{
+
+Totals ReadWithOurs(std::istream& stream);
+Totals ReadWithExpat(std::string const& document);
+Totals ReadWithLibxml2(std::string const& document);
+Totals ReadWithOrcus(std::string const& document);
+Totals ReadWithRapidxml(std::string const& document);
+Totals ReadWithPugixml(std::string const& document);
+
+} // namespace Benchmarks
