@@ -18,4 +18,8 @@ Totals ReadWithOrcus(std::string const& document);
 Totals ReadWithRapidxml(std::string const& document);
 Totals ReadWithPugixml(std::string const& document);
 
+/// The same block by block, for the memory they need.
+Totals StreamWithExpat(std::istream& stream);
+Totals StreamWithLibxml2(std::istream& stream);
+
 } // namespace Benchmarks

@@ -9,6 +9,7 @@
 
 #include <cstring>
 #include <stdexcept>
+#include <vector>
 
 namespace Benchmarks
 {
@@ -88,11 +89,8 @@ private:
     bool m_isInDeclaration = false;
 };
 
-} // namespace
-
-Totals ReadWithExpat(std::string const& document)
+XML_Parser MakeExpatParser(SaxTotals& totals)
 {
-    SaxTotals totals;
     XML_Parser const parser = XML_ParserCreate("ISO-8859-1");
     XML_SetUserData(parser, &totals);
     XML_SetElementHandler(
@@ -106,6 +104,55 @@ Totals ReadWithExpat(std::string const& document)
         [](void* context, XML_Char const*) { GetTotals(context).EndElement(); });
     XML_SetCharacterDataHandler(parser, [](void* context, XML_Char const*, int size)
                                 { GetTotals(context).AddText(static_cast<std::size_t>(size)); });
+    return parser;
+}
+
+/// Calls `parse` with block after block of the stream, the last one marked; false as soon as it answers false.
+template <class Parse>
+bool ForEachBlock(std::istream& stream, Parse const& parse)
+{
+    std::vector<char> block(1 << 20);
+    for (bool isLast = false; !isLast;)
+    {
+        stream.read(block.data(), static_cast<std::streamsize>(block.size()));
+        isLast = !stream;
+        if (!parse(block.data(), static_cast<int>(stream.gcount()), isLast))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+Totals StreamWithExpat(std::istream& stream)
+{
+    SaxTotals totals;
+    XML_Parser const parser = MakeExpatParser(totals);
+    bool const isRead = ForEachBlock(stream, [parser](char const* text, int size, bool isLast)
+                                     { return XML_Parse(parser, text, size, isLast) == XML_STATUS_OK; });
+    XML_ParserFree(parser);
+    if (!isRead)
+        throw std::runtime_error("expat refused the document");
+    return totals.totals;
+}
+
+Totals StreamWithLibxml2(std::istream& stream)
+{
+    SaxTotals totals;
+    xmlSAXHandler handler = MakeLibxml2Handler();
+    xmlParserCtxtPtr const parser = xmlCreatePushParserCtxt(&handler, &totals, nullptr, 0, nullptr);
+    bool const isRead = ForEachBlock(stream, [parser](char const* text, int size, bool isLast)
+                                     { return xmlParseChunk(parser, text, size, isLast) == 0; });
+    xmlFreeParserCtxt(parser);
+    if (!isRead)
+        throw std::runtime_error("libxml2 refused the document");
+    return totals.totals;
+}
+
+Totals ReadWithExpat(std::string const& document)
+{
+    SaxTotals totals;
+    XML_Parser const parser = MakeExpatParser(totals);
     XML_Status const status = XML_Parse(parser, document.data(), static_cast<int>(document.size()), 1);
     XML_ParserFree(parser);
     if (status != XML_STATUS_OK)

@@ -14,6 +14,16 @@
 namespace Vek::Framework::IXMLStreamer::Native
 {
 
+/// Scalars that XMLWriter takes as content, as they are or widened without loss.
+template <class V>
+concept ContentScalar = std::is_same_v<V, char*> || std::is_same_v<V, char const*> || std::is_same_v<V, int> ||
+    std::is_same_v<V, short> || std::is_same_v<V, unsigned short> || std::is_same_v<V, unsigned int> ||
+    std::is_same_v<V, float> || std::is_same_v<V, double> || std::is_same_v<V, bool>;
+
+/// The other scalars, which would turn into one of those.
+template <class V>
+concept NoContentValue = (std::is_scalar_v<V> || std::is_member_pointer_v<V>)&&!ContentScalar<V>;
+
 /// Writes an XML document, element by element, to a stream: one element a line, indented by tabs, lines ended by one
 /// line feed (open files in binary mode).
 ///
@@ -64,14 +74,8 @@ public:
     bool WriteContentValue(std::string const& name, bool value, AttributeWriter const& attributes);
 
     /// No pointer becomes a bool, no character a number, and no number is cut: they do not compile.
-    template <class V>
-    requires(std::is_pointer_v<V> || std::is_member_pointer_v<V> || std::is_null_pointer_v<V> ||
-             std::is_arithmetic_v<V>) &&
-        (!std::is_same_v<V, char*> && !std::is_same_v<V, char const*> && !std::is_same_v<V, int> &&
-         !std::is_same_v<V, short> && !std::is_same_v<V, unsigned short> && !std::is_same_v<V, unsigned int> &&
-         !std::is_same_v<V, float> && !std::is_same_v<V, double> &&
-         !std::is_same_v<V, bool>)bool WriteContentValue(std::string const& name, V value,
-                                                         AttributeWriter const& attributes) = delete;
+    template <NoContentValue V>
+    bool WriteContentValue(std::string const& name, V value, AttributeWriter const& attributes) = delete;
 
     /// <name attributes/>. Refused outside a structure element.
     bool WriteContent(std::string const& name, AttributeWriter const& attributes);

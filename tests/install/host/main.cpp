@@ -7,6 +7,7 @@
 #include <IParser/StateParser.h>
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLStreamer.h>
+#include <IXMLStreamer/XMLWriter.h>
 #include <SysBase/ExceptionHandler.h>
 #include <Utilities/WStringHelper.h>
 
@@ -19,6 +20,17 @@ namespace
 {
 
 using namespace Vek::Framework::IXMLStreamer::Native;
+
+std::string Write()
+{
+    std::ostringstream stream;
+    XMLWriter writer;
+    auto const none = [](auto const&) {};
+    bool const isWritten = writer.StartWriting(stream, true) && writer.WriteBeginStructure("settings", none) &&
+                           writer.WriteContentValue("title", "a<b", none) && writer.WriteEndStructure() &&
+                           writer.FinishWriting();
+    return isWritten ? stream.str() : std::string();
+}
 
 std::string Read(std::string const& document)
 {
@@ -68,8 +80,7 @@ bool AreExceptionsCaughtByType()
 
 int main()
 {
-    bool const isFine = Read("<?xml version=\"1.0\"?><settings><title>a&lt;b</title></settings>") == "a<b" &&
-                        AreExceptionsCaughtByType();
+    bool const isFine = Read(Write()) == "a<b" && AreExceptionsCaughtByType();
     std::cout << (isFine ? "The installed package works\n" : "The installed package does not work\n");
     return isFine ? 0 : 1;
 }
