@@ -22,7 +22,8 @@ concept ContentScalar = std::is_same_v<V, char*> || std::is_same_v<V, char const
 
 /// The other scalars, which would turn into one of those.
 template <class V>
-concept NoContentValue = (std::is_scalar_v<V> || std::is_member_pointer_v<V>)&&!ContentScalar<V>;
+concept NoContentValue = !ContentScalar<V> && (std::is_arithmetic_v<V> || std::is_pointer_v<V> ||
+                                               std::is_member_pointer_v<V> || std::is_null_pointer_v<V>);
 
 /// Writes an XML document, element by element, to a stream: one element a line, indented by tabs, lines ended by one
 /// line feed (open files in binary mode).
