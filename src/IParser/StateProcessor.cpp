@@ -30,12 +30,12 @@ ParserResult StateProcessor::Process()
     return GetResult();
 }
 
-// Recognition. The first place where a token matches wins, and there the longest token.
+// Recognition. The first place where a token matches wins, and there the longest token. It begins with no text set
+// aside: what was pending has been consumed.
 
 bool StateProcessor::FindNextToken()
 {
-    if (!m_isTextAside)
-        PassTokensWithoutConsumer();
+    PassTokensWithoutConsumer();
 
     Internal::TokenTree const& tokens = *m_state->m_tokens;
     char const* const end = m_source.GetEnd();
@@ -158,7 +158,7 @@ void StateProcessor::SetPendingTextAside(char const* end)
 bool StateProcessor::ConsumeInBulk()
 {
     State::BulkConsumer const& consumer = *m_state->m_bulkConsumer;
-    if (!consumer || m_isTextAside || m_textStart == m_source.GetEnd())
+    if (!consumer || m_textStart == m_source.GetEnd())
         return true;
     State::ResultParams params{ m_state->m_id, false, false, GetOffset() };
     m_textStart = consumer(m_textStart, m_source.GetEnd(), params);
@@ -272,7 +272,7 @@ void StateProcessor::MovePositionInStream(char const* end)
 
 unsigned long long StateProcessor::GetOffset() const
 {
-    return m_isTextAside ? m_position.offset : m_position.offset + static_cast<std::size_t>(m_textStart - m_base);
+    return m_position.offset + static_cast<std::size_t>(m_textStart - m_base);
 }
 
 ParserResult StateProcessor::GetResult()

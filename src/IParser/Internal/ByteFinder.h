@@ -37,7 +37,9 @@ public:
     /// The first member of the set in [at, end), or `end`.
     char const* Find(char const* at, char const* end) const
     {
-        if (m_count <= c_lanes && m_count != 0)
+        if (m_count == 0)
+            return end;
+        if (m_count <= c_lanes)
             for (; end - at >= c_blockSize; at += c_blockSize)
                 if (unsigned int const hits = m_count <= 4 ? MatchBlock<4>(at) : MatchBlock<8>(at); hits != 0)
                     return at + std::countr_zero(hits);
