@@ -12,8 +12,8 @@ public:
     explicit RandomGrammar(std::function<unsigned int(unsigned int)> choose) : Choose(std::move(choose))
     {
         // Few letters, so that tokens overlap; with digits, blanks, case and bytes of both halves.
-        char const* const alphabets[] = { "ab<=-AB \n", "aA1.- ", "<>/=ab\n", "a\344\304\n" };
-        m_alphabet = alphabets[Choose(4)];
+        char const* const alphabets[] = { "ab<=-AB \n", "aA1.- ", "<>/=ab\n", "a\344\304\n", "a< \t\n" };
+        m_alphabet = alphabets[Choose(5)];
         if (Choose(8) == 0)
             m_alphabet += '\0';
     }
@@ -52,7 +52,7 @@ private:
         for (unsigned int i = Choose(8); i > 0; --i)
         {
             TokenRule const token = MakeToken(rules, states);
-            bool const isBlank = rules.skipsBlanks && (token.text == " " || token.text == "\n");
+            bool const isBlank = rules.skipsBlanks && (token.text == " " || token.text == "\t" || token.text == "\n");
             if (!rules.HasKey(token.Key()) && !isBlank)
                 rules.tokens.push_back(token);
         }
