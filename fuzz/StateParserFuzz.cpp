@@ -1,5 +1,5 @@
-#include <IParser/GrammarParser.h>
-#include <IParser/RandomGrammar.h>
+#include "GrammarParser.h"
+#include "RandomGrammar.h"
 
 #include <cstdint>
 #include <cstdio>

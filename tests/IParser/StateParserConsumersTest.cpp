@@ -220,25 +220,3 @@ TEST(StateParserConsumers, ABulkConsumerThatEndsTheRunNamesItsPlace)
     ParserResult const& result = t.parser.GetParserResult();
     EXPECT_TRUE(result.stateId == 2 && result.line == 2 && result.column == 2);
 }
-
-TEST(ParserResult, DescribesEveryCode)
-{
-    char const* const descriptions[] = { "Ok",
-                                         "Fehler beim \326ffnen des Datenstroms!",
-                                         "Ung\374ltige Syntax!",
-                                         "TextConsumerNotRegistered",
-                                         "NumberConsumerNotRegistered",
-                                         "Status bereits vorhanden!",
-                                         "Keine Parserstati registriert!",
-                                         "Unbekannter Parserstatus!",
-                                         "Kein Token f\374r aktuellen Status registriert!",
-                                         "NestedStateStackEmpty",
-                                         "NestedStateStackNotEmpty",
-                                         "" };
-    for (unsigned int code = 0; code < std::size(descriptions); ++code)
-    {
-        ParserResult const result(static_cast<ParserResult::ResultCode>(code), 1, 2, 3);
-        EXPECT_STREQ(descriptions[code], result.GetDescription());
-        EXPECT_EQ(code == 0, result.IsSuccess());
-    }
-}

@@ -1,5 +1,5 @@
-#include "GrammarParser.h"
-#include "RandomGrammar.h"
+#include <GrammarParser.h>
+#include <RandomGrammar.h>
 
 #include <gtest/gtest.h>
 

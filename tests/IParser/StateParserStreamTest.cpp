@@ -1,4 +1,4 @@
-#include "GrammarParser.h"
+#include <GrammarParser.h>
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,6 @@
-#include "GrammarParser.h"
+#include <GrammarParser.h>
 
 #include <gtest/gtest.h>
-
-#include <clocale>
 
 using namespace StateParserTests;
 
@@ -169,22 +167,4 @@ TEST(StateParser, TellsNumbersFromTexts)
             EXPECT_EQ(what + " @0 in 7\n-> 0 in 7 at 1:" + std::to_string(row.text.size() + 1) + "\n",
                       parser.RunString(row.text));
         }
-}
-
-TEST(StateParser, NumbersFollowTheCurrentLocale)
-{
-    std::string const before = std::setlocale(LC_NUMERIC, nullptr);
-    for (char const* const locale : { "C", "German_Germany.1252", "de_DE.UTF-8" })
-    {
-        if (std::setlocale(LC_NUMERIC, locale) == nullptr)
-            continue; // not every machine has the German one
-        bool const isComma = std::localeconv()->decimal_point == std::string(",");
-        StateParser parser;
-        State& state = *parser.RegisterState(1, StateParser::SkipWhiteSpace);
-        std::vector<double> numbers;
-        state.RegisterNumberConsumer([&](double number, State::ResultParams&) { numbers.push_back(number); });
-        EXPECT_TRUE(parser.ProcessSource("1.5 2,5"));
-        EXPECT_EQ(std::vector<double>{ isComma ? 2.5 : 1.5 }, numbers) << locale;
-    }
-    std::setlocale(LC_NUMERIC, before.c_str());
 }

@@ -1,7 +1,6 @@
 #include "XMLStreamerFixture.h"
 
 #include <Exceptions/InvalidStateException.h>
-#include <IXMLStreamer/Internal/ParserErrorTable.h>
 
 #include <gtest/gtest.h>
 
@@ -136,40 +135,4 @@ TEST(XMLStreamer, DepthAndLengthAreNotLimited)
     EXPECT_TRUE(reader.Read(c_declaration + ("<settings>\n<title>" + text) + "&amp;" + text + "</title></settings>"));
     EXPECT_EQ("<settings;title=" + text + "&" + text + ";>settings;", reader.trace);
     EXPECT_EQ(6'000'032, reader.streamer.GetParserResult().column);
-}
-
-// The parser ends with Ok or InvalidSyntax only; the rest of its results is mapped all the same.
-TEST(XMLStreamer, ParserResultsAndTheirErrors)
-{
-    using Vek::Framework::IParser::Native::ParserResult;
-    struct ErrorRow
-    {
-        ParserResult::ResultCode result;
-        unsigned int state;
-        StreamerError::ResultCode code;
-        char const* expectedSymbol;
-    };
-    ErrorRow const rows[] = {
-        { ParserResult::Ok, 7, StreamerError::UnexpectedEndOfStream, "" },
-        { ParserResult::SourceNotReadable, 0, StreamerError::InvalidStream, "" },
-        { ParserResult::NestedStateStackNotEmpty, 3, StreamerError::UnexpectedEndOfStream, "" },
-        { ParserResult::InvalidSyntax, 0, StreamerError::Ok, "" },
-        { ParserResult::TextConsumerNotRegistered, 0, StreamerError::InvalidStream, "<?xml oder <!--" },
-        { ParserResult::TextConsumerNotRegistered, 1, StreamerError::InvalidStream,
-          "version=\"1.0\" oder version='1.0'" },
-        { ParserResult::NumberConsumerNotRegistered, 2, StreamerError::InvalidStream, "?>" },
-        { ParserResult::TextConsumerNotRegistered, 3, StreamerError::InvalidSyntax, "< oder <!--" },
-        { ParserResult::TextConsumerNotRegistered, 5, StreamerError::Ok, "" },
-        { ParserResult::TextConsumerNotRegistered, 6, StreamerError::InvalidSyntax, "=" },
-        { ParserResult::NumberConsumerNotRegistered, 7, StreamerError::InvalidSyntax, "\" oder '" },
-        { ParserResult::TextConsumerNotRegistered, 12, StreamerError::InvalidSyntax, "/" },
-        { ParserResult::TextConsumerNotRegistered, 14, StreamerError::InvalidSyntax, ">" },
-        { ParserResult::TextConsumerNotRegistered, 15, StreamerError::InvalidSyntax, "Ende vom XML-Stream oder <!--" },
-    };
-    for (ErrorRow const& row : rows)
-    {
-        auto const error = Internal::FindParserError(row.result, row.state);
-        EXPECT_EQ(row.code, error.code) << row.state;
-        EXPECT_STREQ(row.expectedSymbol, error.expectedSymbol) << row.state;
-    }
 }
