@@ -70,11 +70,11 @@ public:
     /// Replaces the consumer that runs when the source ends in this state.
     void RegisterEndOfSourceConsumer(EndOfSourceConsumer consumer);
 
-    /// Replaces the consumer that may take a piece of the source itself, for hosts that know a short way for common input.
-    /// It is asked where it pays, and only while no text is pending, so a run must come to the same without it. It is
-    /// shown what of the source is in memory and answers the end of what it took, `begin` for nothing; the rest goes
-    /// through recognition. `nextStateId` is the state there, also when it ends the run; the result names the first
-    /// character it did not take.
+    /// Replaces the consumer that may take a piece of the source itself, for hosts that know a short way for common
+    /// input. It is asked where it pays, and only while no text is pending, so a run must come to the same without it.
+    /// It is shown what of the source is in memory and answers the end of what it took, `begin` for nothing; the rest
+    /// goes through recognition. `nextStateId` is the state there, also when it ends the run; the result names the
+    /// first character it did not take.
     void RegisterBulkConsumer(BulkConsumer consumer);
 
     bool HasTextConsumer() const noexcept;
