@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <random>
 #include <streambuf>
 
 using namespace XMLStreamerTests;
@@ -229,6 +230,36 @@ TEST(XMLStreamer, CutDocumentEndsTooEarlyOrFailsAsTheWholeOne)
             ASSERT_TRUE(whole.trace.starts_with(WithoutLastEvent(cut.trace))) << "cut at " << size << ": " << cut.trace;
             ASSERT_TRUE(isCutRead ? isRead : IsErrorOfACut(code) || code == whole.streamer.GetError().GetErrorCode())
                 << "cut at " << size << " code " << code;
+        }
+    }
+}
+
+TEST(XMLStreamer, RandomMarkupReadsTheSameInWholeAndInPieces)
+{
+    char const* const pieces[] = { "<",        "</",         ">",
+                                   "/>",       "=",          "\"",
+                                   "'",        " ",          "\n",
+                                   "&amp;",    "&#65;",      "&x;",
+                                   "<!--",     "-->",        "/",
+                                   "a",        "title",      "port",
+                                   "name",     "<port",      "</port>",
+                                   "<title>",  "</title>",   " name=\"v\"",
+                                   "<printer", "</printer>", "<printer name=\"a&lt;\">",
+                                   "<x>",      "</x>",       "</settings>" };
+    std::mt19937 random(20240501);
+    TracingReader reader;
+    for (int i = 0; i < 3000; ++i)
+    {
+        std::string document = Expand("~<settings>");
+        for (unsigned int count = static_cast<unsigned int>(random() % 16); count > 0; --count)
+            document += pieces[random() % std::size(pieces)];
+        std::string const whole = reader.Describe(reader.Read(document));
+        for (std::size_t const split : { document.size() - random() % (document.size() - 31), document.size() / 2 })
+        {
+            SplitBuffer buffer(document, split);
+            std::istream stream(&buffer);
+            reader.trace.clear();
+            ASSERT_EQ(whole, reader.Describe(reader.streamer.ProcessSource(stream))) << document << "|" << split;
         }
     }
 }
