@@ -1,13 +1,17 @@
 #pragma once
 
+#include <Utilities/CodePoint.h>
+#include <Utilities/Nullable.h>
 #include <VekApi.h>
 
 #include <string>
+#include <vector>
 
 namespace Vek::Framework::Utilities
 {
 
-/// Operations on wide text: conversion to and from 8-bit text, comparison without case.
+/// Operations on wide text: conversion to and from 8-bit text, code points, search and comparison, case, replacement,
+/// numbers.
 ///
 /// Text:  UTF-16, one code unit in each wchar_t on every platform, also where wchar_t has 32 bits: a character above
 ///        U+FFFF is two elements. Lengths and positions count units. Texts are not validated unless said otherwise.
@@ -48,6 +52,47 @@ public:
     static bool EqualsIgnoreCaseWithCurrentCodePage(std::wstring const& a, std::string const& b);
 
     /// @}
+    /// @name Code points
+    /// Counted by units that are no high surrogates: each of them ends a code point.
+    /// @{
+
+    /// True for a high surrogate: the next unit belongs to the same code point.
+    static bool IsNextCodeUnitConnected(wchar_t unit) noexcept;
+    /// True for a low surrogate.
+    static bool IsPreviousCodeUnitConnected(wchar_t unit) noexcept;
+
+    /// A pair counts once, a lone high surrogate not at all, a lone low one once.
+    static unsigned long long GetCodePointsCount(std::wstring const& text) noexcept;
+
+    /// The number of code points that end in the `count` units from `start` on.
+    /// Throws ArgumentException when these do not lie in the text.
+    static unsigned long long GetCodePointDistance(std::wstring const& text, unsigned long long count,
+                                                   unsigned long long start);
+
+    /// The number of units from `start` on in which `count` code points end. Throws ArgumentException when the text
+    /// ends first.
+    static unsigned long long GetCodeUnitDistance(std::wstring const& text, unsigned long long count,
+                                                  unsigned long long start);
+
+    /// `length` code points from the code point `start` on. Throws ArgumentException when there are not that many, so
+    /// also for negative arguments.
+    static std::wstring CodePointSubString(std::wstring const& text, int start, int length);
+
+    /// @}
+    /// @name Search
+    /// Unit by unit.
+    /// @{
+
+    /// True for an empty `part`. Both texts end at their first 0 unit.
+    static bool Contains(std::wstring const& text, std::wstring const& part);
+
+    static bool StartsWith(std::wstring const& text, std::wstring const& prefix);
+    /// True when every unit of `codePoint` equals the first unit of `text`: never for a pair. Kept for the programs
+    /// that rely on it; ask StartsWith(text, codePoint.ToString()) for pairs.
+    static bool StartsWith(std::wstring const& text, CodePoint const& codePoint) noexcept;
+    static bool EndsWith(std::wstring const& text, std::wstring const& suffix);
+
+    /// @}
     /// @name Comparison without case
     /// @{
 
@@ -65,6 +110,45 @@ public:
     /// Negative, 0 or positive as `a` sorts before, with or after `b`, in the order of the lower-case units as unsigned
     /// numbers: no dictionary order. A proper beginning of the other text sorts first.
     static int CompareIgnoreCase(std::wstring const& a, std::wstring const& b);
+
+    /// @}
+    /// @name Case
+    /// By the rules of the user's language on Windows and of Unicode elsewhere; ASCII letters are mapped directly.
+    /// Surrogates and letters whose partner does not lead back to them stay.
+    /// @{
+
+    static wchar_t ToLowerCase(wchar_t unit);
+    static wchar_t ToUpperCase(wchar_t unit);
+    static std::wstring ToLowerCase(std::wstring const& text);
+    static void MakeLowerCase(std::wstring& text);
+
+    /// @}
+    /// @name Editing, numbers, lists
+    /// @{
+
+    /// As StringHelper::ReplaceAll, limits included.
+    static void ReplaceAll(std::wstring& text, std::wstring const& from, std::wstring const& to);
+
+    /// Digits with, as wanted, one minus sign in front and one `separator` anywhere; at least one digit.
+    static bool IsNumber(std::wstring const& text, Nullable<wchar_t> separator, bool allowNegative);
+    static bool IsInteger(std::wstring const& text, bool allowNegative);
+
+    /// As the C runtime's wcstol, base 10: blanks and a sign in front, up to the first unit that is no digit. 0 without
+    /// digits; the nearest int for a value out of range.
+    static int ParseInt(std::wstring const& text) noexcept;
+
+    /// Removes the elements equal to `item`, which may lie in `list`, and answers how many there were.
+    static unsigned long long RemoveFromList(std::vector<std::wstring>& list, std::wstring const& item);
+
+    /// Two upper-case digits a byte. `data` may be null when `size` is 0.
+    static std::wstring GetHex(unsigned char const* data, unsigned int size);
+    static void AppendHex(unsigned char const* data, unsigned int size, std::wstring& target);
+
+    /// For callers that must answer a reference: an empty text, the one unit U+00A0, an empty list. They stay as long
+    /// as the process.
+    static std::wstring const& Empty();
+    static std::wstring const& NonBreakingSpace();
+    static std::vector<std::wstring> const& EmptyStringList();
 
     /// @}
 };

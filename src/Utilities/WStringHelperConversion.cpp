@@ -1,6 +1,7 @@
 #include <Exceptions/ArgumentException.h>
 #include <Platform/CodePage.h>
 #include <Platform/WideBlock.h>
+#include <Utilities/Surrogates.h>
 #include <Utilities/WStringHelper.h>
 
 #include <bit>
@@ -25,16 +26,6 @@ void RequireThat(bool isWellFormed)
 {
     if (!isWellFormed)
         ThrowBadConversion();
-}
-
-bool IsHighSurrogate(unsigned unit) noexcept
-{
-    return (unit & 0xFFFFFC00U) == 0xD800;
-}
-
-bool IsLowSurrogate(unsigned unit) noexcept
-{
-    return (unit & 0xFFFFFC00U) == 0xDC00;
 }
 
 /// Decodes UTF-8 into room for as many units as there are bytes: no sequence gives more.

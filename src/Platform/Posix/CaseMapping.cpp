@@ -18,14 +18,19 @@ locale_t GetLocale()
     return s_locale;
 }
 
-char16_t MapUnit(char16_t unit)
+using MapCharacter = std::wint_t (*)(std::wint_t, locale_t) noexcept;
+
+// Windows maps only pairs that lead back: U+0130 to 'i' and the Kelvin sign to 'k' are none.
+void MapPage(char16_t first, CasePage& page, MapCharacter map, MapCharacter mapBack, char16_t (*mapLatin)(char16_t))
 {
     locale_t const locale = GetLocale();
-    if (locale == nullptr)
-        return ToLatinLowerCase(unit);
-    // Windows maps only pairs that lead back: U+0130 to 'i' and the Kelvin sign to 'k' are none.
-    auto const lower = static_cast<std::wint_t>(towlower_l(unit, locale));
-    return lower <= 0xFFFFU && towupper_l(lower, locale) == unit ? static_cast<char16_t>(lower) : unit;
+    for (unsigned offset = 0; offset < page.size(); ++offset)
+    {
+        char16_t const unit = static_cast<char16_t>(first + offset);
+        std::wint_t const mapped = locale == nullptr ? mapLatin(unit) : map(unit, locale);
+        bool const leadsBack = mapped <= 0xFFFFU && (locale == nullptr || mapBack(mapped, locale) == unit);
+        page[offset] = leadsBack ? static_cast<char16_t>(mapped) : unit;
+    }
 }
 
 /// The Windows search takes more letters for the same than the case mapping does: it compares by language.
@@ -46,8 +51,17 @@ wchar_t FoldForSearch(wchar_t unit)
 
 void MapToGermanLowerCase(char16_t first, CasePage& page)
 {
-    for (unsigned offset = 0; offset < page.size(); ++offset)
-        page[offset] = MapUnit(static_cast<char16_t>(first + offset));
+    MapPage(first, page, towlower_l, towupper_l, ToLatinLowerCase);
+}
+
+void MapToUserLowerCase(char16_t first, CasePage& page)
+{
+    MapPage(first, page, towlower_l, towupper_l, ToLatinLowerCase);
+}
+
+void MapToUserUpperCase(char16_t first, CasePage& page)
+{
+    MapPage(first, page, towupper_l, towlower_l, ToLatinUpperCase);
 }
 
 bool IsFoundIgnoringCase(std::wstring const& text, std::wstring const& part)

@@ -7,17 +7,37 @@
 namespace Vek::Platform
 {
 
-void MapToGermanLowerCase(char16_t first, CasePage& page)
+namespace
+{
+
+void MapPage(char16_t first, CasePage& page, wchar_t const* language, DWORD mapping, char16_t (*mapLatin)(char16_t))
 {
     constexpr int size = static_cast<int>(LazyPages<char16_t>::c_pageSize);
     wchar_t units[size];
-    wchar_t lower[size];
+    wchar_t mapped[size];
     for (int offset = 0; offset < size; ++offset)
         units[offset] = static_cast<wchar_t>(first + offset);
-    int const count = LCMapStringEx(L"de-DE", LCMAP_LOWERCASE, units, size, lower, size, nullptr, nullptr, 0);
+    int const count = LCMapStringEx(language, mapping, units, size, mapped, size, nullptr, nullptr, 0);
     for (std::size_t offset = 0; offset < page.size(); ++offset)
-        page[offset] = count == size ? static_cast<char16_t>(lower[offset])
-                                     : ToLatinLowerCase(static_cast<char16_t>(units[offset]));
+        page[offset] =
+            count == size ? static_cast<char16_t>(mapped[offset]) : mapLatin(static_cast<char16_t>(units[offset]));
+}
+
+} // namespace
+
+void MapToGermanLowerCase(char16_t first, CasePage& page)
+{
+    MapPage(first, page, L"de-DE", LCMAP_LOWERCASE, ToLatinLowerCase);
+}
+
+void MapToUserLowerCase(char16_t first, CasePage& page)
+{
+    MapPage(first, page, LOCALE_NAME_USER_DEFAULT, LCMAP_LOWERCASE, ToLatinLowerCase);
+}
+
+void MapToUserUpperCase(char16_t first, CasePage& page)
+{
+    MapPage(first, page, LOCALE_NAME_USER_DEFAULT, LCMAP_UPPERCASE, ToLatinUpperCase);
 }
 
 bool IsFoundIgnoringCase(std::wstring const& text, std::wstring const& part)

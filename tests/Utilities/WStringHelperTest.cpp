@@ -1,0 +1,152 @@
+#include "UnitText.h"
+
+#include <Exceptions/ArgumentException.h>
+#include <Utilities/WStringHelper.h>
+
+#include <gtest/gtest.h>
+
+#include <climits>
+
+using namespace Vek::Framework::Utilities;
+
+TEST(WStringHelper, CodePointArithmetic)
+{
+    std::wstring const text = MakeText({ 'a', 0xD83D, 0xDE00, 'b' });
+    EXPECT_EQ(3U, WStringHelper::GetCodePointsCount(text));
+    EXPECT_EQ(1U, WStringHelper::GetCodePointsCount(MakeText({ 0xD83D, 0xDC00, 0xD83D })));
+    EXPECT_EQ(1U, WStringHelper::GetCodePointDistance(text, 2, 0));
+    EXPECT_EQ(2U, WStringHelper::GetCodePointDistance(text, 2, 2));
+    EXPECT_EQ(0U, WStringHelper::GetCodePointDistance(text, 0, 99));
+    EXPECT_EQ(3U, WStringHelper::GetCodeUnitDistance(text, 2, 0));
+    EXPECT_EQ(0U, WStringHelper::GetCodeUnitDistance(text, 0, 99));
+    for (unsigned long long const start : { 0ULL, 4ULL, 99ULL, ULLONG_MAX })
+    {
+        EXPECT_THROW(WStringHelper::GetCodePointDistance(text, 5, start), Vek::ArgumentException);
+        EXPECT_THROW(WStringHelper::GetCodeUnitDistance(text, 4, start), Vek::ArgumentException);
+    }
+    struct
+    {
+        int start;
+        int length;
+        std::wstring result; // "!" for an exception
+    } const rows[] = { { 1, 1, MakeText({ 0xD83D, 0xDE00 }) },
+                       { 0, 3, text },
+                       { 3, 0, L"" },
+                       { 3, 1, L"!" },
+                       { 4, 0, L"!" },
+                       { -1, 0, L"!" },
+                       { 0, -1, L"!" },
+                       { INT_MIN, 1, L"!" } };
+    for (auto const& row : rows)
+        if (row.result == L"!")
+            EXPECT_THROW(WStringHelper::CodePointSubString(text, row.start, row.length), Vek::ArgumentException);
+        else
+            EXPECT_EQ(row.result, WStringHelper::CodePointSubString(text, row.start, row.length)) << row.start;
+}
+
+TEST(WStringHelper, SearchesEndAtTheFirstZero)
+{
+    std::wstring const text = MakeText({ 'a', 'b', 0, 'c', 'd' });
+    struct
+    {
+        std::wstring other;
+        bool isContained;
+        bool isStart;
+        bool isEnd;
+    } const rows[] = {
+        { L"", true, true, true },
+        { L"b", true, false, false },
+        { L"ab", true, true, false },
+        { L"cd", false, false, true },
+        { MakeText({ 'a', 'b', 0, 'x' }), true, true, false },
+        { MakeText({ 'b', 0, 'x', 'x' }), true, false, true },
+        { MakeText({ 'a', 'b', 0, 'c', 'd', 'e' }), true, false, false },
+        { MakeText({ 0 }), true, false, false },
+    };
+    for (auto const& row : rows)
+    {
+        EXPECT_EQ(row.isContained, WStringHelper::Contains(text, row.other)) << row.other.size();
+        EXPECT_EQ(row.isStart, WStringHelper::StartsWith(text, row.other)) << row.other.size();
+        EXPECT_EQ(row.isEnd, WStringHelper::EndsWith(text, row.other)) << row.other.size();
+    }
+    std::wstring const pair = MakeText({ 0xD83D, 0xDE00 });
+    EXPECT_TRUE(WStringHelper::StartsWith(text, L'a'));
+    EXPECT_FALSE(WStringHelper::StartsWith(L"", L'a'));
+    EXPECT_FALSE(WStringHelper::StartsWith(pair, CodePoint(pair))) << "kept as it is";
+}
+
+// The rule over all units: direct below 127, and a mapping leads back.
+TEST(WStringHelper, CaseOfEveryUnit)
+{
+    unsigned letters = 0;
+    for (unsigned value = 0; value <= 0xFFFF; ++value)
+    {
+        wchar_t const unit = static_cast<wchar_t>(value);
+        wchar_t const lower = WStringHelper::ToLowerCase(unit);
+        wchar_t const upper = WStringHelper::ToUpperCase(unit);
+        letters += lower != unit;
+        if (value < 127)
+        {
+            ASSERT_EQ(value >= 'A' && value <= 'Z' ? value + 32 : value, static_cast<unsigned>(lower));
+            ASSERT_EQ(value >= 'a' && value <= 'z' ? value - 32 : value, static_cast<unsigned>(upper));
+        }
+        bool const isSurrogate = value >= 0xD800 && value <= 0xDFFF;
+        ASSERT_TRUE(!isSurrogate || (lower == unit && upper == unit)) << value;
+        ASSERT_TRUE(lower == unit || WStringHelper::ToUpperCase(lower) == unit) << value;
+    }
+    EXPECT_GT(letters, 900U);
+    EXPECT_EQ(MakeText({ 0xE4, 0xF6, 0xDF, 'x', 0xD7 }),
+              WStringHelper::ToLowerCase(MakeText({ 0xC4, 0xD6, 0xDF, 'X', 0xD7 })));
+}
+
+TEST(WStringHelper, TellsAndParsesNumbers)
+{
+    struct
+    {
+        wchar_t const* text;
+        Nullable<wchar_t> separator;
+        bool allowNegative;
+        bool isNumber;
+    } const rows[] = {
+        { L"-1,5", L',', true, true }, { L"1,5,", L',', true, false }, { L"1-", {}, true, false },
+        { L"-1", L',', false, false }, { L"--1", L',', true, false },  { L"-", L'.', true, false },
+        { L".", L'.', true, false },   { L"5.", L'.', true, true },    { L".5", L'.', true, true },
+        { L"1.5", {}, true, false },   { L"+1", L'.', true, false },   { L" 1", L'.', true, false },
+        { L"", L'.', true, false },    { L"1e5", L'.', true, false },  { L"0123456789", {}, false, true },
+        { L"-1", L'-', true, true },   { L"-1-", L'-', true, true },   { L"010", L'0', false, false },
+    };
+    for (auto const& row : rows)
+        EXPECT_EQ(row.isNumber, WStringHelper::IsNumber(row.text, row.separator, row.allowNegative)) << row.text;
+    EXPECT_TRUE(WStringHelper::IsInteger(L"-12", true));
+    EXPECT_FALSE(WStringHelper::IsInteger(L"-12", false));
+
+    struct
+    {
+        wchar_t const* text;
+        int value;
+    } const values[] = { { L" \t+12x", 12 },
+                         { L"-3.9", -3 },
+                         { L"", 0 },
+                         { L"x", 0 },
+                         { L"2147483647", INT_MAX },
+                         { L"2147483648", INT_MAX },
+                         { L"-99999999999999999999", INT_MIN } };
+    for (auto const& row : values)
+        EXPECT_EQ(row.value, WStringHelper::ParseInt(row.text)) << row.text;
+}
+
+TEST(WStringHelper, Edits)
+{
+    std::wstring text = L"aab";
+    WStringHelper::ReplaceAll(text, L"ab", L"b");
+    EXPECT_EQ(L"b", text);
+
+    std::vector<std::wstring> list{ L"x", L"a", L"x", L"b", L"X" };
+    EXPECT_EQ(2U, WStringHelper::RemoveFromList(list, list[0]));
+    EXPECT_EQ((std::vector<std::wstring>{ L"a", L"b", L"X" }), list);
+
+    unsigned char const bytes[] = { 0x00, 0xAB, 0xFF };
+    WStringHelper::AppendHex(bytes, 3, text);
+    EXPECT_EQ(L"b00ABFF", text);
+    EXPECT_EQ(L"", WStringHelper::GetHex(nullptr, 0));
+}
