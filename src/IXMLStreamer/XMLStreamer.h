@@ -18,14 +18,15 @@ namespace Vek::Framework::IXMLStreamer::Native
 /// Text:     names and values are bytes as they stand in the document, Windows-1252 by convention. Codes are decoded in
 ///           attribute values and content: the names of XMLCodes, and "&#" with a decimal number from 1 to 255.
 /// Document: begins with <?xml version="1.0"?> (comments may stand before it), then one element. Text that has no
-///           place, such as text between elements or after the root, is dropped; so are the parts of DOCTYPE, CDATA and
-///           processing instructions, which are not part of this dialect. An empty root tag ("<settings/>") is read,
-///           but does not complete the document: the end of the stream is unexpected then.
+///           place, such as text between elements or after the root, is dropped. An empty root tag ("<settings/>") is
+///           read, but does not complete the document: the end of the stream is unexpected then.
+/// Dialect:  without DOCTYPE, CDATA and processing instructions. Where elements may stand, their "<" begins an element
+///           with an odd name ("!DOCTYPE", "?pi"): another root than the registered one, or an unknown element that
+///           nothing ends. In content, "<![CDATA[" ends the content, and the rest is dropped up to the next "/".
 /// Handlers: chosen by the version that is set when they are due, so that a handler may set it. An attribute's runs
-/// when
-///           its value is complete, a structure's begin handler at the end of its start tag, a content handler with the
-///           decoded content at the "<" behind it (with "" for an empty element), a structure's end handler before
-///           the element is left. One that returns false ends the run with UserDefinedError.
+///           when its value is complete, a structure's begin handler at the end of its start tag, a content handler
+///           with the decoded content at the "<" behind it (with "" for an empty element), a structure's end handler
+///           before the element is left. One that returns false ends the run with UserDefinedError.
 /// Unknown:  an element without description goes to the unknown-element handler and each of its attributes to the
 ///           unknown-attribute handler; so does everything below it.
 /// Errors:   a bad document is never an exception: ProcessSource answers false, GetError says why, and the first error
@@ -40,7 +41,7 @@ public:
     ~XMLStreamer();
 
     /// Describes the root element anew and drops the description made before; during a run, that one lives until the
-    /// run ends. The reference stays valid until then.
+    /// run ends. The reference stays valid until the root is replaced so.
     XMLStructureElement& CreateRootStructureElement(std::string const& name);
 
     void SetVersion(unsigned int version);

@@ -82,7 +82,8 @@ public:
     bool WriteContent(std::string const& name, AttributeWriter const& attributes);
 
     /// <!--text-->; nothing for an empty text. Allowed anywhere from the first StartWriting on, also before and behind
-    /// the root and behind FinishWriting.
+    /// the root and behind FinishWriting. Hyphens go out as they are; XMLStreamer reads "--" in a comment, which other
+    /// readers may refuse.
     bool WriteComment(std::string const& text);
 
     /// Ends the document; refused while elements are open or when none was written. Does not flush the stream.
