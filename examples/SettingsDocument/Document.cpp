@@ -40,11 +40,20 @@ std::string Explain(std::filesystem::path const& path, XMLStreamer const& reader
     return text;
 }
 
-// A file beside the target that vanishes unless it takes the target's place.
+// A new file beside the target that vanishes unless it takes the target's place. It takes the place of a file only: a
+// device or a folder stays, and so does a file of the temporary name that somebody else has left there.
 class TemporaryFile
 {
 public:
-    explicit TemporaryFile(std::filesystem::path const& target) : m_target(target), m_path(target) { m_path += ".tmp"; }
+    explicit TemporaryFile(std::filesystem::path const& target) : m_target(target), m_path(target)
+    {
+        m_path += ".tmp";
+        std::error_code ignored; // what cannot be asked for cannot be opened either
+        if (std::filesystem::exists(m_target, ignored) && !std::filesystem::is_regular_file(m_target, ignored))
+            throw DocumentError(NameOf(m_target) + " cannot be replaced");
+        if (std::filesystem::exists(m_path, ignored))
+            throw DocumentError(NameOf(m_path) + " stands in the way");
+    }
     TemporaryFile(TemporaryFile const&) = delete;
     TemporaryFile& operator=(TemporaryFile const&) = delete;
 

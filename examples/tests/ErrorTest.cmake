@@ -46,6 +46,13 @@ expect_error("target is a folder" "folder cannot be replaced" ${DATA_FOLDER} fol
 if(EXISTS ${WORK_FOLDER}/folder.tmp OR NOT IS_DIRECTORY ${WORK_FOLDER}/folder)
     message(SEND_ERROR "a target that cannot be replaced is not left as it was")
 endif()
+file(WRITE ${WORK_FOLDER}/taken.xml.tmp "theirs")
+expect_error("temporary name is taken" "taken.xml.tmp stands in the way" ${DATA_FOLDER} taken.xml)
+file(READ ${WORK_FOLDER}/taken.xml.tmp taken)
+if(NOT taken STREQUAL "theirs")
+    message(SEND_ERROR "a file that was there is lost to the temporary one")
+endif()
+file(REMOVE ${WORK_FOLDER}/taken.xml.tmp)
 
 foreach(chart IN ITEMS "<act:id>a</act:id><act:parent>b</act:parent>" "<act:id>a</act:id><act:parent>a</act:parent>")
     file(WRITE ${WORK_FOLDER}/chart.xea
@@ -60,10 +67,14 @@ file(WRITE ${WORK_FOLDER}/chart.xea
 expect_error("no UTF-8" "chart.xea is not a valid document:\n  code +5\n.*  place +line 2, column 46\n"
     ${DATA_FOLDER} written.xml chart.xea)
 
-# What only Linux can stage: a file that opens but cannot be read, an output that takes nothing, a disk
-# that is full.
+# What only Linux can stage: a file that opens but cannot be read, a target that is a pipe, an output that takes
+# nothing, a disk that is full.
 if(NOT DATA_FOLDER MATCHES "^Z:")
     expect_error("unreadable stream" "mem cannot be read" --read /proc/self/mem)
+
+    execute_process(COMMAND mkfifo ${WORK_FOLDER}/pipe)
+    expect_error("target is no file" "pipe cannot be replaced" ${DATA_FOLDER} pipe)
+    file(REMOVE ${WORK_FOLDER}/pipe)
 
     set(plain_program ${program})
     set(program bash -c "exec \"$@\" > /dev/full" bash ${plain_program})
