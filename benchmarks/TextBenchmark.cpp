@@ -33,7 +33,7 @@ std::string MakeUtf8(Language language)
     char const* const sentence =
         language == Language::German
             ? "Die Rechnung für die Lieferung der Büromöbel wird größtenteils gemäß Vertrag über Österreich geführt. "
-            : "The invoice for the delivery of the office furniture goes through the books as the contract says. ";
+            : "The invoice for the delivery of the office furniture goes through the books as agreed last week. ";
     std::string text;
     while (text.size() < 100'000)
         text += sentence;
