@@ -1,32 +1,17 @@
 #include <IParser/Symbol.h>
 
-#include <string_view>
-
 namespace Vek::Framework::IParser::Native
 {
 
 namespace
 {
 
-// Constants cost nothing when the library is loaded; a table of finished symbols would.
-constexpr std::string_view Describe(Symbol::SymbolType symbolType)
+// Made on first use and never destroyed: symbols may outlive everything else.
+std::string const* MakeDescriptions()
 {
-    switch (symbolType)
-    {
-    case Symbol::Undefined:
-        return "Initial symbol placeholder (undefined)";
-    case Symbol::Identifier:
-        return "Identifier";
-    case Symbol::Text:
-        return "Text";
-    case Symbol::Number:
-        return "Number";
-    case Symbol::PassThroughBlock:
-        return "Pass-Through block";
-    case Symbol::Token:
-        break;
-    }
-    return "";
+    return new std::string[]{
+        "Initial symbol placeholder (undefined)", "Identifier", "Text", "Number", "Pass-Through block", ""
+    };
 }
 
 } // namespace
@@ -63,9 +48,10 @@ int Symbol::GetSymbolId() const noexcept
     return m_symbolType == Token ? m_tokenId : static_cast<int>(m_symbolType);
 }
 
-std::string const& Symbol::GetDescription() const noexcept
+std::string const& Symbol::GetDescription() const
 {
-    return m_description;
+    static std::string const* const descriptions = MakeDescriptions();
+    return m_hasOwnDescription ? m_description : descriptions[m_symbolType - Undefined];
 }
 
 unsigned long long Symbol::GetLine() const noexcept
@@ -81,26 +67,6 @@ unsigned long long Symbol::GetColumn() const noexcept
 Symbol* Symbol::GetPrevSymbol() const noexcept
 {
     return m_prevSymbol;
-}
-
-// The texts keep their memory: most symbols are short and follow one of the same kind.
-void Symbol::Begin(SymbolType symbolType, unsigned long long line, unsigned long long column)
-{
-    m_text.clear();
-    m_tokenId = -1;
-    m_line = line;
-    m_column = column;
-    m_prevSymbol = nullptr;
-    SetKind(symbolType);
-}
-
-void Symbol::SetKind(SymbolType symbolType)
-{
-    std::string_view const description = Describe(symbolType);
-    if (m_description != description)
-        m_description.assign(description);
-    m_symbolType = symbolType;
-    m_state = Complete;
 }
 
 } // namespace Vek::Framework::IParser::Native

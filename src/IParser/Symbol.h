@@ -52,7 +52,7 @@ public:
     /// The token's id, for all other kinds the value of the kind: one number to switch over.
     int GetSymbolId() const noexcept;
     /// The name of the kind, in English; empty for a token.
-    std::string const& GetDescription() const noexcept;
+    std::string const& GetDescription() const;
     /// From 1, as SimpleParser counts.
     unsigned long long GetLine() const noexcept;
     /// From 1, as SimpleParser counts.
@@ -65,14 +65,30 @@ private:
     friend class SimpleParser;
     friend class Internal::SymbolRecord;
 
-    VEK_LOCAL void Begin(SymbolType symbolType, unsigned long long line, unsigned long long column);
-    VEK_LOCAL void SetKind(SymbolType symbolType);
+    // The text keeps its memory.
+    void Begin(SymbolType symbolType, unsigned long long line, unsigned long long column)
+    {
+        m_text.clear();
+        m_tokenId = -1;
+        m_line = line;
+        m_column = column;
+        m_prevSymbol = nullptr;
+        SetKind(symbolType);
+    }
+
+    void SetKind(SymbolType symbolType)
+    {
+        m_symbolType = symbolType;
+        m_state = Complete;
+        m_hasOwnDescription = false;
+    }
 
     std::string m_text;
     SymbolType m_symbolType = Undefined;
     State m_state = Complete;
     int m_tokenId = -1;
-    std::string m_description;
+    std::string m_description;       // of a symbol that was not scanned
+    bool m_hasOwnDescription = true; // otherwise it follows from the kind
     unsigned long long m_line = 0;
     unsigned long long m_column = 0;
     Symbol* m_prevSymbol = nullptr;

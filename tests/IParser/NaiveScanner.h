@@ -22,11 +22,11 @@ struct ScannerRules
     unsigned int tabSize = 3;
 };
 
-/// One symbol as a line of a trace. Shared, so that two scanners that agree write the same.
-inline std::string ToLine(std::string const& kind, std::string const& text, unsigned long long line,
-                          unsigned long long column)
+/// One symbol in a trace: kind, text, line and column. Shared, so that two scanners that agree write the same.
+inline std::string MakeEntry(std::string const& kind, std::string const& text, unsigned long long line,
+                             unsigned long long column)
 {
-    return kind + " <" + text + "> " + std::to_string(line) + ":" + std::to_string(column) + "\n";
+    return kind + "<" + text + ">" + std::to_string(line) + ":" + std::to_string(column) + " ";
 }
 
 /// The simple parser said as simply as possible: every character goes through every rule.
@@ -110,7 +110,7 @@ private:
 
     std::string Token(ScannerToken const& token)
     {
-        std::string const line = ToLine("token " + std::to_string(token.id), token.text, m_line, m_column);
+        std::string const line = MakeEntry("#" + std::to_string(token.id), token.text, m_line, m_column);
         m_position += token.text.size();
         m_column += token.text.size();
         return line;
@@ -122,7 +122,7 @@ private:
         for (++m_position, ++m_column; m_position < m_source.size() && At() != m_rules.text; ++m_position, ++m_column)
             text += At();
         bool const isComplete = m_position < m_source.size();
-        std::string const line = ToLine(isComplete ? "text" : "cut text", text, m_line, m_column);
+        std::string const line = MakeEntry(isComplete ? "t" : "cut", text, m_line, m_column);
         m_position += isComplete ? 1 : 0;
         m_column += isComplete ? 1 : 0;
         return line;
@@ -144,8 +144,8 @@ private:
     std::string Pending() const
     {
         bool const isNumber = !m_isPendingRaw && IsNumber(m_pending);
-        char const* const kind = m_isPendingRaw ? "raw" : isNumber ? "number" : "identifier";
-        return ToLine(kind, m_pending, m_pendingLine, m_pendingColumn);
+        char const* const kind = m_isPendingRaw ? "raw" : isNumber ? "n" : "i";
+        return MakeEntry(kind, m_pending, m_pendingLine, m_pendingColumn);
     }
 
     // In the C locale: a sign alone, or digits with one point behind the first.

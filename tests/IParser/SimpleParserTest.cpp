@@ -29,53 +29,29 @@ SimpleParser MakeParser(ScannerRules const& rules, std::string const& source, bo
 
 std::string KindOf(Symbol const& symbol)
 {
-    switch (symbol.GetSymbolType())
-    {
-    case Symbol::Token:
-        return "token " + std::to_string(symbol.GetTokenId());
-    case Symbol::Text:
-        return symbol.GetState() == Symbol::Unterminated ? "cut text" : "text";
-    case Symbol::Number:
-        return "number";
-    case Symbol::Identifier:
-        return "identifier";
-    case Symbol::PassThroughBlock:
-        return "raw";
-    default:
-        return "undefined";
-    }
+    char const* const kinds[] = { "none", "i", "t", "n", "raw" };
+    if (symbol.GetSymbolType() == Symbol::Token)
+        return "#" + std::to_string(symbol.GetTokenId());
+    return symbol.GetState() == Symbol::Unterminated ? "cut" : kinds[symbol.GetSymbolType() - Symbol::Undefined];
 }
 
-std::string ToTraceLine(Symbol const& symbol)
+std::string ToEntry(Symbol const& symbol)
 {
-    return ToLine(KindOf(symbol), symbol.GetText(), symbol.GetLine(), symbol.GetColumn());
+    return MakeEntry(KindOf(symbol), symbol.GetText(), symbol.GetLine(), symbol.GetColumn());
 }
 
 std::string Trace(SimpleParser& parser)
 {
     std::string trace;
     for (Symbol symbol; parser.GetNextSymbol(symbol);)
-        trace += ToTraceLine(symbol);
+        trace += ToEntry(symbol);
     return trace;
 }
-
-class CLocale
-{
-public:
-    CLocale() : m_before(std::setlocale(LC_NUMERIC, nullptr)) { std::setlocale(LC_NUMERIC, "C"); }
-    CLocale(CLocale const&) = delete;
-    CLocale& operator=(CLocale const&) = delete;
-    ~CLocale() { std::setlocale(LC_NUMERIC, m_before.c_str()); }
-
-private:
-    std::string m_before;
-};
 
 } // namespace
 
 TEST(SimpleParser, CutsSourcesAndCountsPlaces)
 {
-    CLocale const locale;
     struct
     {
         char const* why;
@@ -86,52 +62,39 @@ TEST(SimpleParser, CutsSourcesAndCountsPlaces)
         { "the longest token wins",
           { { { 1, "=", true }, { 2, "==", true } } },
           "a==b=",
-          "identifier <a> 1:1\ntoken 2 <==> 1:2\nidentifier <b> 1:4\ntoken 1 <=> 1:5\n" },
+          "i<a>1:1 #2<==>1:2 i<b>1:4 #1<=>1:5 " },
         { "a longest token that is not scannable hides shorter ones",
           { { { 1, "=", true }, { 2, "==", false } } },
           "a==b",
-          "identifier <a=> 1:1\ntoken 1 <=> 1:3\nidentifier <b> 1:4\n" },
-        { "a tab is a letter and counts the tab size besides",
-          {},
-          "x\ty z",
-          "identifier <x\ty> 1:1\nidentifier <z> 1:8\n" },
-        { "behind blanks it counts twice", {}, "x \ty", "identifier <x> 1:1\nidentifier <\ty> 1:9\n" },
-        { "line feeds, returns and spaces are blanks",
-          {},
-          "a\r\n b\rc",
-          "identifier <a> 1:1\nidentifier <b> 2:2\nidentifier <c> 2:1\n" },
+          "i<a=>1:1 #1<=>1:3 i<b>1:4 " },
+        { "a tab is a letter and counts the tab size besides", {}, "x\ty z", "i<x\ty>1:1 i<z>1:8 " },
+        { "behind blanks it counts twice", {}, "x \ty", "i<x>1:1 i<\ty>1:9 " },
+        { "line feeds, returns and spaces are blanks", {}, "a\r\n b\rc", "i<a>1:1 i<b>2:2 i<c>2:1 " },
         { "a blank that is a token and ends an identifier is counted for both",
           { { { 1, "\n", true } } },
           "a\nb",
-          "identifier <a> 1:1\ntoken 1 <\n> 3:1\nidentifier <b> 3:2\n" },
-        { "a comment counts as two lines", {}, "a // b\nc // d", "identifier <a> 1:1\nidentifier <c> 3:1\n" },
-        { "and ends an identifier", {}, "ab//c\nd", "identifier <ab> 1:1\nidentifier <d> 3:1\n" },
-        { "a marker with nothing behind it is none", {}, "a //", "identifier <a> 1:1\nidentifier <//> 1:3\n" },
-        { "unless it is one character long", { {}, "#" }, "a #", "identifier <a> 1:1\n" },
-        { "a marker that begins with a line feed gets somewhere",
-          { {}, "\n#" },
-          "a\n#b\nc\n",
-          "identifier <a> 1:1\nidentifier <c> 5:1\n" },
-        { "an empty marker is none", { {}, "" }, "a//b", "identifier <a//b> 1:1\n" },
-        { "a text is where it ends, and one line",
-          {},
-          "\"a\nb\"\"\" c",
-          "text <a\nb> 1:5\ntext <> 1:7\nidentifier <c> 1:9\n" },
-        { "a text ends an identifier, and may be cut off", {}, "a\"abc", "identifier <a> 1:1\ncut text <abc> 1:6\n" },
-        { "a cut text may be empty", {}, "'\"", "identifier <'> 1:1\ncut text <> 1:3\n" },
+          "i<a>1:1 #1<\n>3:1 i<b>3:2 " },
+        { "a comment counts as two lines", {}, "a // b\nc // d", "i<a>1:1 i<c>3:1 " },
+        { "and ends an identifier", {}, "ab//c\nd", "i<ab>1:1 i<d>3:1 " },
+        { "a marker with nothing behind it is none", {}, "a //", "i<a>1:1 i<//>1:3 " },
+        { "unless it is one character long", { {}, "#" }, "a #", "i<a>1:1 " },
+        { "a marker that begins with a line feed gets somewhere", { {}, "\n#" }, "a\n#b\nc\n", "i<a>1:1 i<c>5:1 " },
+        { "an empty marker is none", { {}, "" }, "a//b", "i<a//b>1:1 " },
+        { "a text is where it ends, and one line", {}, "\"a\nb\"\"\" c", "t<a\nb>1:5 t<>1:7 i<c>1:9 " },
+        { "a text ends an identifier, and may be cut off", {}, "a\"abc", "i<a>1:1 cut<abc>1:6 " },
+        { "a cut text may be empty", {}, "'\"", "i<'>1:1 cut<>1:3 " },
         { "comments go before tokens, tokens before texts and blanks",
           { { { 1, "//", true }, { 2, "\"", true }, { 3, " ", true } } },
           "\" //\n",
-          "token 2 <\"> 1:1\ntoken 3 < > 1:3\n" },
+          "#2<\">1:1 #3< >1:3 " },
         { "numbers",
           {},
           "1 -2.5 + 7. .5 1.2.3 1-2 1e3",
-          "number <1> 1:1\nnumber <-2.5> 1:3\nnumber <+> 1:8\nnumber <7.> 1:10\nidentifier <.5> 1:13\n"
-          "identifier <1.2.3> 1:16\nidentifier <1-2> 1:22\nidentifier <1e3> 1:26\n" },
+          "n<1>1:1 n<-2.5>1:3 n<+>1:8 n<7.>1:10 i<.5>1:13 i<1.2.3>1:16 i<1-2>1:22 i<1e3>1:26 " },
         { "bytes of the upper half",
           { { { 1, "\304", true } } },
           "\344\304\377",
-          "identifier <\344> 1:1\ntoken 1 <\304> 1:2\nidentifier <\377> 1:3\n" },
+          "i<\344>1:1 #1<\304>1:2 i<\377>1:3 " },
     };
     for (auto const& row : rows)
     {
@@ -148,26 +111,26 @@ TEST(SimpleParser, PassesRawTextThrough)
     auto const next = [&]
     {
         parser.GetNextSymbol(symbol);
-        return ToTraceLine(symbol);
+        return ToEntry(symbol);
     };
     parser.InvokePassThrough();
-    EXPECT_EQ("raw <a b//\n\"<> 1:1\n", next());
+    EXPECT_EQ("raw<a b//\n\"<>1:1 ", next());
     EXPECT_EQ("Pass-Through block", symbol.GetDescription());
-    EXPECT_EQ("token 1 <%>> 2:4\n", next());
-    EXPECT_EQ("identifier <c> 2:6\n", next());
+    EXPECT_EQ("#1<%>>2:4 ", next());
+    EXPECT_EQ("i<c>2:6 ", next());
     parser.InvokePassThrough();
-    EXPECT_EQ("token 1 <%>> 2:8\n", next()) << "no raw text before it";
-    EXPECT_EQ("token 1 <%>> 2:10\n", next());
+    EXPECT_EQ("#1<%>>2:8 ", next()) << "no raw text before it";
+    EXPECT_EQ("#1<%>>2:10 ", next());
     parser.InvokePassThrough();
-    EXPECT_EQ("raw < 5> 2:13\n", next()) << "no number; a blank counts before the place is taken";
-    EXPECT_EQ("undefined <> 0:0\n", next());
+    EXPECT_EQ("raw< 5>2:13 ", next()) << "no number; a blank counts before the place is taken";
+    EXPECT_EQ("none<>0:0 ", next());
     parser.ProvideSource("x y");
-    EXPECT_EQ("raw <x y> 1:1\n", next()) << "the end leaves raw text asked for";
+    EXPECT_EQ("raw<x y>1:1 ", next()) << "the end leaves raw text asked for";
 }
 
 TEST(SimpleParser, TheDecimalPointIsTheLocalesWhenTheParserIsMade)
 {
-    CLocale const locale;
+    std::string const before = std::setlocale(LC_NUMERIC, nullptr);
     SimpleParser const madeBefore(false);
     for (char const* const name : { "C", "German_Germany.1252", "de_DE.UTF-8" })
     {
@@ -176,11 +139,12 @@ TEST(SimpleParser, TheDecimalPointIsTheLocalesWhenTheParserIsMade)
         bool const isComma = *std::localeconv()->decimal_point == ',';
         SimpleParser made(false);
         made.ProvideSource("12,5");
-        EXPECT_EQ(isComma ? "number <12,5> 1:1\n" : "identifier <12,5> 1:1\n", Trace(made)) << name;
+        EXPECT_EQ(isComma ? "n<12,5>1:1 " : "i<12,5>1:1 ", Trace(made)) << name;
         SimpleParser copied(madeBefore);
         copied.ProvideSource("12,5");
-        EXPECT_EQ("identifier <12,5> 1:1\n", Trace(copied)) << name;
+        EXPECT_EQ("i<12,5>1:1 ", Trace(copied)) << name;
     }
+    std::setlocale(LC_NUMERIC, before.c_str());
 }
 
 TEST(SimpleParser, RefusesTokensAndChangesNothing)
@@ -194,8 +158,7 @@ TEST(SimpleParser, RefusesTokensAndChangesNothing)
     EXPECT_EQ("<", parser.GetToken(1)->GetText());
     EXPECT_EQ("", parser.GetToken(1)->GetDescription());
     EXPECT_TRUE(parser.AddToken(-7, std::string("<\0", 2), "", true)) << "never found in a source that ends there";
-    EXPECT_EQ("token 1 <<> 1:1\ntoken 1 <<> 1:2\nidentifier <=> 1:3\ntoken 1 <<> 1:4\nidentifier <\344> 1:5\n",
-              Trace(parser));
+    EXPECT_EQ("#1<<>1:1 #1<<>1:2 i<=>1:3 #1<<>1:4 i<\344>1:5 ", Trace(parser));
 }
 
 TEST(SimpleParser, ReusedSymbolsKeepNothingOfTheOneBefore)
@@ -228,7 +191,7 @@ TEST(SimpleParser, CopiesOwnTheirSourceTokensAndRecord)
     original.reset();
     for (SimpleParser* const parser : { &copy, &assigned })
     {
-        EXPECT_EQ("identifier <b> 1:3\nidentifier <c> 1:5\n", Trace(*parser));
+        EXPECT_EQ("i<b>1:3 i<c>1:5 ", Trace(*parser));
         Symbol const* previous = nullptr;
         std::string texts;
         parser->ForEachSymbol(
@@ -260,12 +223,11 @@ TEST(SimpleParser, AWalkSeesWhatItRecordsAndEndsWithTheSource)
     EXPECT_EQ("x", symbol.GetText());
     EXPECT_EQ(nullptr, symbol.GetPrevSymbol());
     EXPECT_THROW(parser.ProvideSource(nullptr), Vek::NullPointerException);
-    EXPECT_EQ("identifier <y> 1:3\n", Trace(parser)) << "a refused source changes nothing";
+    EXPECT_EQ("i<y>1:3 ", Trace(parser)) << "a refused source changes nothing";
 }
 
 TEST(SimpleParser, AgreesWithTheNaiveScanner)
 {
-    CLocale const locale;
     std::mt19937 engine(1);
     auto const choose = [&](std::size_t end) { return engine() % end; };
     auto const makeText = [&](std::string const& alphabet, std::size_t length)
@@ -303,7 +265,7 @@ TEST(SimpleParser, AgreesWithTheNaiveScanner)
             }
             expected = naive.Next();
             bool const isThere = parser.GetNextSymbol(symbol);
-            ASSERT_EQ(expected, isThere ? ToTraceLine(symbol) : "")
+            ASSERT_EQ(expected, isThere ? ToEntry(symbol) : "")
                 << "round " << round << ", source <" << source << ">, comment <" << rules.comment << ">";
         }
     }
