@@ -1,0 +1,23 @@
+#include <Platform/Process.h>
+
+#include <Platform/Windows/WindowsHeader.h>
+
+namespace Vek::Platform
+{
+
+std::wstring GetProgramPath()
+{
+    for (std::wstring path(MAX_PATH, L'\0');; path.resize(2 * path.size()))
+    {
+        DWORD const size = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        if (size < path.size()) // else it was cut; 0 when the system refuses
+            return path.substr(0, size);
+    }
+}
+
+wchar_t GetPathSeparator() noexcept
+{
+    return L'\\';
+}
+
+} // namespace Vek::Platform

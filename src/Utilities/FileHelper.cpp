@@ -1,0 +1,121 @@
+#include <Utilities/FileHelper.h>
+
+#include <Exceptions/ArgumentException.h>
+#include <Exceptions/InvalidStateException.h>
+#include <Platform/CodePage.h>
+#include <Platform/FileSystem.h>
+#include <Platform/InputFile.h>
+#include <Utilities/TextFile.h>
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+
+namespace Vek::Framework::Utilities
+{
+
+namespace
+{
+
+std::wstring Widen(std::string const& path)
+{
+    return path.empty() ? std::wstring() : Platform::DecodeCodePage(path);
+}
+
+void RequireExisting(std::wstring const& path)
+{
+    if (!FileHelper::Exists(path))
+        throw ArgumentException();
+}
+
+bool HasEqualText(TextFile& first, TextFile& second)
+{
+    while (true)
+    {
+        std::string_view const a = first.Peek();
+        std::string_view const b = second.Peek();
+        std::size_t const size = std::min(a.size(), b.size());
+        if (size == 0)
+            return a.empty() && b.empty();
+        if (a.substr(0, size) != b.substr(0, size))
+            return false;
+        first.Skip(size);
+        second.Skip(size);
+    }
+}
+
+} // namespace
+
+bool FileHelper::Exists(std::wstring const& path)
+{
+    FileExistenceResult const state = GetExistenceState(path);
+    if (state == FileExistenceResult::Undetermined)
+        throw InvalidStateException();
+    return state == FileExistenceResult::Existing;
+}
+
+bool FileHelper::Exists(std::string const& path)
+{
+    return Exists(Widen(path));
+}
+
+FileExistenceResult FileHelper::GetExistenceState(std::wstring const& path)
+{
+    switch (Platform::QueryPath(path))
+    {
+    case Platform::PathState::Present:
+        return FileExistenceResult::Existing;
+    case Platform::PathState::Missing:
+        return FileExistenceResult::NotExisting;
+    default:
+        return FileExistenceResult::Undetermined;
+    }
+}
+
+FileExistenceResult FileHelper::GetExistenceState(std::string const& path)
+{
+    return GetExistenceState(Widen(path));
+}
+
+bool FileHelper::EnsureDirectoryExists(std::wstring const& path)
+{
+    return Platform::EnsureDirectory(path);
+}
+
+bool FileHelper::Copy(std::wstring const& source, std::wstring const& target, bool overwrite)
+{
+    return Platform::CopyWholeFile(source, target, overwrite);
+}
+
+void FileHelper::Delete(std::wstring const& path)
+{
+    Platform::RemoveFile(path);
+}
+
+bool FileHelper::HasEqualContent(std::wstring const& first, std::wstring const& second)
+{
+    RequireExisting(first);
+    RequireExisting(second);
+    TextFile firstFile(first);
+    TextFile secondFile(second);
+    return HasEqualText(firstFile, secondFile);
+}
+
+std::shared_ptr<SizedArray<unsigned char>> FileHelper::ReadBinary(std::wstring const& path)
+{
+    Platform::InputFile const file(path);
+    std::optional<unsigned long long> const size = file.GetSize();
+    if (!size)
+        return nullptr;
+    auto content = std::make_shared<SizedArray<unsigned char>>(*size);
+    return file.Read(content->GetData(), *size) == size ? content : nullptr;
+}
+
+std::wstring FileHelper::GetFilename(std::wstring const& path)
+{
+    std::size_t const separator = path.rfind(L'\\');
+    bool const hasName = separator != std::wstring::npos && separator + 1 != path.size();
+    return hasName ? path.substr(separator + 1) : path;
+}
+
+} // namespace Vek::Framework::Utilities

@@ -1,0 +1,143 @@
+#include <Exceptions/ArgumentException.h>
+#include <Exceptions/NullPointerException.h>
+#include <Utilities/MemoryInputStream.h>
+#include <Utilities/SizedArray.h>
+
+#include <gtest/gtest.h>
+
+#include <iterator>
+#include <limits>
+#include <string>
+#include <utility>
+
+using Vek::Framework::Utilities::DataBuffer;
+using Vek::Framework::Utilities::MemoryInputStream;
+
+namespace
+{
+
+constexpr long long c_most = std::numeric_limits<long long>::max();
+constexpr long long c_least = std::numeric_limits<long long>::min();
+
+std::string ReadRest(std::istream& stream)
+{
+    return std::string(std::istreambuf_iterator<char>(stream), {});
+}
+
+} // namespace
+
+TEST(MemoryInputStream, SeeksToTheNearestEnd)
+{
+    struct Row
+    {
+        long long start;
+        long long offset;
+        std::ios_base::seekdir way;
+        long long position;
+        char const* why;
+    };
+    Row const rows[] = {
+        { 5, 3, std::ios_base::beg, 3, "inside, from the beginning" },
+        { 5, 20, std::ios_base::beg, 10, "beyond the end" },
+        { 5, -1, std::ios_base::beg, 0, "before the beginning" },
+        { 5, -3, std::ios_base::end, 7, "inside, from the end" },
+        { 5, 1, std::ios_base::end, 10, "beyond the end, from there" },
+        { 5, -11, std::ios_base::end, 0, "before the beginning, from the end" },
+        { 5, -2, std::ios_base::cur, 3, "back" },
+        { 5, 5, std::ios_base::cur, 10, "forth, just to the end" },
+        { 5, 6, std::ios_base::cur, 10, "forth, too far" },
+        { 5, -20, std::ios_base::cur, 0, "back, too far" },
+        { 5, c_most, std::ios_base::cur, 10, "a sum that would overflow" },
+        { 5, c_least, std::ios_base::cur, 0, "a sum that would overflow downwards" },
+        { 5, c_most, std::ios_base::end, 10, "the size added to the most" },
+        { 5, c_least, std::ios_base::end, 0, "the size added to the least" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        MemoryInputStream stream("0123456789", 10);
+        EXPECT_EQ(stream.seekg(row.start).tellg(), row.start);
+        EXPECT_EQ(stream.seekg(row.offset, row.way).tellg(), row.position);
+        EXPECT_EQ(ReadRest(stream), std::string("0123456789").substr(static_cast<std::size_t>(row.position)));
+    }
+    MemoryInputStream stream("0123456789", 10);
+    EXPECT_EQ(stream.seekg(20).tellg(), 10);
+    EXPECT_EQ(stream.seekg(std::streampos(-1)).tellg(), 0);
+}
+
+TEST(MemoryInputStream, MovesAtMost32BitsAtOnceInALargeBlock)
+{
+    unsigned long long const size = 3ULL << 30U;
+    Vek::Framework::Utilities::SizedArray<unsigned char> const block(size); // never touched, so it costs no memory
+    MemoryInputStream stream(block.GetData(), size);
+    EXPECT_EQ(stream.seekg(0, std::ios_base::end).tellg(), 0x7FFFFFFF);
+    EXPECT_EQ(stream.seekg(0, std::ios_base::end).tellg(), static_cast<long long>(size));
+    EXPECT_EQ(stream.seekg(0).tellg(), 0x40000000);
+}
+
+TEST(MemoryInputStream, ReadsAsAnyStreamDoes)
+{
+    char const text[] = "12 \xE4\n\xFF\0z";
+    MemoryInputStream stream(text, sizeof(text) - 1);
+    int number = 0;
+    std::string word;
+    EXPECT_TRUE(stream >> number >> word);
+    EXPECT_EQ(number, 12);
+    EXPECT_EQ(word, "\xE4");
+    EXPECT_EQ(stream.get(), '\n');
+    EXPECT_EQ(stream.get(), 0xFF) << "a byte, not the end";
+    EXPECT_EQ(ReadRest(stream), std::string("\0z", 2));
+    EXPECT_EQ(stream.get(), std::char_traits<char>::eof());
+    EXPECT_TRUE(stream.eof());
+    EXPECT_EQ(stream.seekg(0, std::ios_base::beg).tellg(), -1) << "it has failed";
+    stream.clear();
+    EXPECT_EQ(stream.seekg(0).get(), '1');
+
+    MemoryInputStream empty(nullptr, 0);
+    EXPECT_EQ(empty.get(), std::char_traits<char>::eof());
+    EXPECT_TRUE(empty.eof());
+}
+
+TEST(MemoryInputStream, WritesNothingIntoTheBlock)
+{
+    std::string const text = "ab";
+    MemoryInputStream stream(text.data(), text.size());
+    stream.get();
+    EXPECT_FALSE(stream.putback('x'));
+    EXPECT_EQ(stream.rdbuf()->sputc('x'), std::char_traits<char>::eof());
+    EXPECT_EQ(text, "ab");
+}
+
+TEST(MemoryInputStream, GoesOnAfterAMove)
+{
+    MemoryInputStream first("0123", 4);
+    first.get();
+    first.setstate(std::ios_base::eofbit);
+    MemoryInputStream second(std::move(first));
+    EXPECT_TRUE(second.eof());
+    EXPECT_EQ(second.gcount(), 1);
+    second.clear();
+    EXPECT_EQ(second.get(), '1');
+
+    MemoryInputStream third("x", 1);
+    third.setstate(std::ios_base::failbit);
+    third = std::move(second);
+    EXPECT_TRUE(third.good());
+    EXPECT_EQ(third.tellg(), 2);
+    EXPECT_EQ(ReadRest(third), "23");
+    EXPECT_EQ(third.rdbuf(), static_cast<std::streambuf*>(&third));
+}
+
+TEST(DataBuffer, CopiesReadTheSameBlockIndependently)
+{
+    DataBuffer buffer("0123", 4);
+    buffer.sbumpc();
+    DataBuffer copy(buffer);
+    EXPECT_EQ(copy.sbumpc(), '1');
+    EXPECT_EQ(copy.pubseekoff(0, std::ios_base::end), 4);
+    EXPECT_EQ(buffer.sgetc(), '1');
+    buffer = copy;
+    EXPECT_EQ(buffer.sgetc(), std::char_traits<char>::eof());
+    EXPECT_THROW(DataBuffer(nullptr, 1), Vek::NullPointerException);
+    EXPECT_THROW(DataBuffer("", 1ULL << 63U), Vek::ArgumentException);
+}
