@@ -1,0 +1,43 @@
+#pragma once
+
+#include <VekApi.h>
+
+#include <string>
+
+namespace Vek::Framework::Utilities
+{
+
+/// Splits a line as CommaSeparatedValueWriter makes it: every value ends with the separator, a backslash takes the next
+/// unit as it is. A last value without a separator counts as well; a separator at the end begins no further value.
+class VEK_API CommaSeparatedValueReader
+{
+public:
+    CommaSeparatedValueReader(std::wstring text, wchar_t separator);
+    CommaSeparatedValueReader(CommaSeparatedValueReader const& other);
+    CommaSeparatedValueReader(CommaSeparatedValueReader&& other) noexcept;
+    CommaSeparatedValueReader& operator=(CommaSeparatedValueReader const& other);
+    CommaSeparatedValueReader& operator=(CommaSeparatedValueReader&& other) noexcept;
+    ~CommaSeparatedValueReader();
+
+    /// Reads the next value; false, with an empty current value, when nothing is left.
+    /// A backslash that ends the text throws std::out_of_range ("invalid string position"): the current value is what
+    /// stands before it then, and the reader stays in front of it, so that ReadRest still gives it.
+    bool MoveNext();
+
+    /// The value of the last MoveNext or ReadRest; valid until the next one.
+    std::wstring const& GetCurrentValue() const noexcept;
+
+    /// The next value. Throws InvalidStateException when nothing is left.
+    std::wstring const& ReadNext();
+
+    /// All that is left as the current value, as it stands: escapes and separators included.
+    std::wstring const& ReadRest();
+
+private:
+    std::wstring m_text;
+    wchar_t m_separator;
+    unsigned long long m_position = 0;
+    std::wstring m_currentValue;
+};
+
+} // namespace Vek::Framework::Utilities
