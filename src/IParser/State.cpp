@@ -45,13 +45,17 @@ unsigned int State::GetId() const noexcept
     return m_id;
 }
 
+// Called when no consumer of this parser is running.
+void State::ForgetReplacedConsumers()
+{
+    m_replacedConsumers.clear();
+}
+
 template <class Consumer>
 void State::Replace(std::shared_ptr<Consumer const>& slot, Consumer consumer)
 {
     auto fresh = std::make_shared<Consumer const>(std::move(consumer));
-    if (m_activeRuns == 0)
-        m_replacedConsumers.clear();
-    else
+    if (m_activeRuns != 0)
         m_replacedConsumers.push_back(slot);
     slot = std::move(fresh);
     m_takesText = *m_textConsumer || *m_textViewConsumer || *m_numberConsumer;

@@ -114,6 +114,7 @@ private:
     State(unsigned int id, unsigned int const& activeRuns);
 
     void InsertToken(std::unique_ptr<Internal::StateToken> token);
+    void ForgetReplacedConsumers();
     template <class Consumer>
     VEK_LOCAL void Replace(std::shared_ptr<Consumer const>& slot, Consumer consumer);
 

@@ -18,8 +18,8 @@ namespace Vek::Framework::IParser::Native
 ///           text consumer switches the state, the token is recognised again with the tokens of the new state.
 /// Place:    position, line and column move over a text or a token once its consumer agreed, so that a failed run
 ///           names the first character of what its consumer refused.
-/// Cost:     linear in the source for tokens of bounded length. Memory: the longest text between two tokens, 1 MiB when
-///           reading by block, and the consumers that a run replaces, which are kept for it.
+/// Cost:     linear in the source for tokens of bounded length. Memory: the longest text between two tokens and, when
+///           reading by block, 1 MiB.
 /// Errors:   a syntax error ends the run with InvalidSyntax. Exceptions of consumers pass through; GetParserResult
 ///           stays as it was, and the next run starts clean.
 /// Reentry:  a consumer may start another run of the same parser and register states.

@@ -47,6 +47,7 @@ private:
     bool ConsumeText(char const* end);
     bool ConsumeNumberOrText(char const* end);
     std::string const& GetPendingText(char const* end);
+    State::ResultParams PrepareCall();
     template <class Call>
     bool InvokeConsumer(Call const& call);
     bool IsGoingOn(State::ResultParams const& params);
