@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Exceptions/InvalidStateException.h>
 #include <VekApi.h>
 
 namespace Vek::Framework::Utilities
@@ -10,22 +11,30 @@ template <class T>
 class VEK_TEMPLATE_API Enumerator
 {
 public:
-    /// An input iterator on an enumerator; all copies walk together.
+    /// An input iterator on an enumerator; all copies walk together. At the end, `*` and `++` throw
+    /// InvalidStateException.
     class Iterator
     {
     public:
         explicit Iterator(Enumerator* enumerator) : m_enumerator(enumerator) {}
 
-        T operator*() const { return m_enumerator->GetCurrent(); }
+        T operator*() const { return Require().GetCurrent(); }
         Iterator& operator++()
         {
-            if (!m_enumerator->MoveNext())
+            if (!Require().MoveNext())
                 m_enumerator = nullptr;
             return *this;
         }
         friend bool operator==(Iterator const& a, Iterator const& b) { return a.m_enumerator == b.m_enumerator; }
 
     private:
+        Enumerator& Require() const
+        {
+            if (m_enumerator == nullptr)
+                throw InvalidStateException();
+            return *m_enumerator;
+        }
+
         Enumerator* m_enumerator; // null at the end
     };
 

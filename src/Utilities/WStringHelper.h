@@ -130,17 +130,18 @@ public:
     static void ReplaceAll(std::wstring& text, std::wstring const& from, std::wstring const& to);
 
     /// Digits with, as wanted, one minus sign in front and one `separator` anywhere; at least one digit.
+    /// A '-' is never taken as separator.
     static bool IsNumber(std::wstring const& text, Nullable<wchar_t> separator, bool allowNegative);
     static bool IsInteger(std::wstring const& text, bool allowNegative);
 
-    /// As the C runtime's wcstol, base 10: blanks and a sign in front, up to the first unit that is no digit. 0 without
+    /// The decimal number in front: white space of ASCII, a sign, digits up to the first unit that is none. 0 without
     /// digits; the nearest int for a value out of range.
     static int ParseInt(std::wstring const& text) noexcept;
 
     /// Removes the elements equal to `item`, which may lie in `list`, and answers how many there were.
     static unsigned long long RemoveFromList(std::vector<std::wstring>& list, std::wstring const& item);
 
-    /// Two upper-case digits a byte. `data` may be null when `size` is 0.
+    /// Two upper-case digits a byte. `data` may be null when `size` is 0, else NullPointerException is thrown.
     static std::wstring GetHex(unsigned char const* data, unsigned int size);
     static void AppendHex(unsigned char const* data, unsigned int size, std::wstring& target);
 

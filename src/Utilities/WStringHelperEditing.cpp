@@ -1,12 +1,51 @@
+#include <Exceptions/NullPointerException.h>
 #include <Utilities/TextReplacement.h>
 #include <Utilities/WStringHelper.h>
 
 #include <algorithm>
-#include <cwchar>
+#include <array>
+#include <cstdint>
 #include <limits>
 
 namespace Vek::Framework::Utilities
 {
+
+namespace
+{
+
+bool IsDigit(wchar_t unit) noexcept
+{
+    return unit >= L'0' && unit <= L'9';
+}
+
+bool IsWhitespace(wchar_t unit) noexcept
+{
+    return unit == L' ' || (unit >= L'\t' && unit <= L'\r');
+}
+
+/// The digits at `digit`, at most `limit`. They end at the terminator of the text at the latest.
+std::int64_t ParseDigits(wchar_t const* digit, std::int64_t limit) noexcept
+{
+    std::int64_t value = 0;
+    for (; IsDigit(*digit) && value < limit; ++digit)
+        value = value * 10 + (*digit - L'0');
+    return std::min(value, limit);
+}
+
+using HexDigits = std::array<wchar_t, 2>;
+
+constexpr std::array<HexDigits, 256> MakeHexDigits() noexcept
+{
+    constexpr wchar_t const* digits = L"0123456789ABCDEF";
+    std::array<HexDigits, 256> table{};
+    for (std::size_t byte = 0; byte < table.size(); ++byte)
+        table[byte] = { digits[byte / 16], digits[byte % 16] };
+    return table;
+}
+
+constexpr std::array<HexDigits, 256> c_hexDigits = MakeHexDigits();
+
+} // namespace
 
 void WStringHelper::ReplaceAll(std::wstring& text, std::wstring const& from, std::wstring const& to)
 {
@@ -16,13 +55,13 @@ void WStringHelper::ReplaceAll(std::wstring& text, std::wstring const& from, std
 bool WStringHelper::IsNumber(std::wstring const& text, Nullable<wchar_t> separator, bool allowNegative)
 {
     bool hasDigit = false;
-    bool maySeparate = separator.HasValue();
+    bool maySeparate = separator.HasValue() && separator.GetValue() != L'-';
     for (std::size_t at = allowNegative && text.starts_with(L'-') ? 1 : 0; at < text.size(); ++at)
     {
         wchar_t const unit = text[at];
         if (maySeparate && unit == separator.GetValue())
             maySeparate = false;
-        else if (unit >= L'0' && unit <= L'9' && (!separator.HasValue() || unit != separator.GetValue()))
+        else if (IsDigit(unit) && (!separator.HasValue() || unit != separator.GetValue()))
             hasDigit = true;
         else
             return false;
@@ -37,10 +76,14 @@ bool WStringHelper::IsInteger(std::wstring const& text, bool allowNegative)
 
 int WStringHelper::ParseInt(std::wstring const& text) noexcept
 {
-    // Where long has 64 bits, wcstol clamps to those.
-    long long const value = std::wcstol(text.c_str(), nullptr, 10);
-    using Limits = std::numeric_limits<int>;
-    return static_cast<int>(std::clamp<long long>(value, Limits::min(), Limits::max()));
+    // Not the runtime's: its white space depends on the process locale and differs between systems.
+    using Limits = std::numeric_limits<std::int32_t>;
+    wchar_t const* at = std::find_if_not(text.c_str(), text.c_str() + text.size(), IsWhitespace);
+    bool const isNegative = *at == L'-';
+    if (isNegative || *at == L'+')
+        ++at;
+    std::int64_t const value = ParseDigits(at, std::int64_t{ Limits::max() } + (isNegative ? 1 : 0));
+    return static_cast<int>(isNegative ? -value : value);
 }
 
 unsigned long long WStringHelper::RemoveFromList(std::vector<std::wstring>& list, std::wstring const& item)
@@ -58,15 +101,15 @@ std::wstring WStringHelper::GetHex(unsigned char const* data, unsigned int size)
 
 void WStringHelper::AppendHex(unsigned char const* data, unsigned int size, std::wstring& target)
 {
-    constexpr wchar_t const* c_digits = L"0123456789ABCDEF";
+    if (size == 0)
+        return;
+    if (data == nullptr)
+        throw NullPointerException();
     std::size_t const start = target.size();
     target.resize(start + 2 * static_cast<std::size_t>(size));
-    wchar_t* digit = target.data() + start;
-    for (unsigned char const* byte = data; byte != data + size; ++byte)
-    {
-        *digit++ = c_digits[*byte >> 4];
-        *digit++ = c_digits[*byte & 0x0F];
-    }
+    wchar_t* digits = target.data() + start;
+    for (std::size_t at = 0; at < size; ++at, digits += 2)
+        std::copy_n(c_hexDigits[data[at]].data(), 2, digits);
 }
 
 std::wstring const& WStringHelper::Empty()

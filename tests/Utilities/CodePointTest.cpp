@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
 
 using namespace Vek::Framework::Utilities;
@@ -70,6 +71,21 @@ TEST(CodePoint, EveryUnitAloneAndEveryPairByItsHalves)
     }
 }
 
+TEST(CodePoint, EverySurrogatePairIsOneAndIsWalkedAsOne)
+{
+    std::wstring text(2, L'\0');
+    CodePointEnumerator const start(text);
+    for (unsigned pair = 0; pair < 0x100000; ++pair)
+    {
+        text[0] = Unit(0xD800 + pair / 0x400);
+        text[1] = Unit(0xDC00 + pair % 0x400);
+        CodePoint const codePoint(text);
+        CodePointEnumerator walk(start);
+        bool const isWalked = walk.MoveNext() && walk.GetCurrent() == codePoint && !walk.MoveNext();
+        ASSERT_TRUE(isWalked && std::equal(codePoint.begin(), codePoint.end(), text.begin(), text.end())) << pair;
+    }
+}
+
 TEST(CodePoint, FromTexts)
 {
     std::wstring const pair = MakeText({ 0xD83D, 0xDE00 });
@@ -106,4 +122,6 @@ TEST(CodePointEnumerator, WalksAndStopsAtBrokenPairs)
     std::wstring const empty;
     CodePointEnumerator none(empty);
     EXPECT_TRUE(none.begin() == none.end());
+    EXPECT_THROW(*none.end(), Vek::InvalidStateException);
+    EXPECT_THROW(++none.begin(), Vek::InvalidStateException);
 }

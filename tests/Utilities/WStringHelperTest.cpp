@@ -1,6 +1,7 @@
 #include "UnitText.h"
 
 #include <Exceptions/ArgumentException.h>
+#include <Exceptions/NullPointerException.h>
 #include <Utilities/WStringHelper.h>
 
 #include <gtest/gtest.h>
@@ -113,7 +114,7 @@ TEST(WStringHelper, TellsAndParsesNumbers)
         { L".", L'.', true, false },   { L"5.", L'.', true, true },    { L".5", L'.', true, true },
         { L"1.5", {}, true, false },   { L"+1", L'.', true, false },   { L" 1", L'.', true, false },
         { L"", L'.', true, false },    { L"1e5", L'.', true, false },  { L"0123456789", {}, false, true },
-        { L"-1", L'-', true, true },   { L"-1-", L'-', true, true },   { L"010", L'0', false, false },
+        { L"-1", L'-', true, true },   { L"-1-", L'-', true, false },  { L"010", L'0', false, false },
     };
     for (auto const& row : rows)
         EXPECT_EQ(row.isNumber, WStringHelper::IsNumber(row.text, row.separator, row.allowNegative)) << row.text;
@@ -122,7 +123,7 @@ TEST(WStringHelper, TellsAndParsesNumbers)
 
     struct
     {
-        wchar_t const* text;
+        std::wstring text;
         int value;
     } const values[] = { { L" \t+12x", 12 },
                          { L"-3.9", -3 },
@@ -130,7 +131,14 @@ TEST(WStringHelper, TellsAndParsesNumbers)
                          { L"x", 0 },
                          { L"2147483647", INT_MAX },
                          { L"2147483648", INT_MAX },
-                         { L"-99999999999999999999", INT_MIN } };
+                         { L"-2147483647", -INT_MAX },
+                         { L"-2147483648", INT_MIN },
+                         { L"-2147483649", INT_MIN },
+                         { std::wstring(100, L'9'), INT_MAX },
+                         { L"-" + std::wstring(100, L'0') + L"1", -1 },
+                         { MakeText({ '1', 0, '2' }), 1 },
+                         { MakeText({ 0xA0, '1' }), 0 }, // the same in every process locale
+                         { L"+-1", 0 } };
     for (auto const& row : values)
         EXPECT_EQ(row.value, WStringHelper::ParseInt(row.text)) << row.text;
 }
@@ -149,4 +157,5 @@ TEST(WStringHelper, Edits)
     WStringHelper::AppendHex(bytes, 3, text);
     EXPECT_EQ(L"b00ABFF", text);
     EXPECT_EQ(L"", WStringHelper::GetHex(nullptr, 0));
+    EXPECT_THROW(WStringHelper::GetHex(nullptr, 1), Vek::NullPointerException);
 }
