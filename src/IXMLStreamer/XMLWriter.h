@@ -34,9 +34,9 @@ concept NoContentValue = !ContentScalar<V> && (std::is_arithmetic_v<V> || std::i
 ///             operation until StartWriting. A host may therefore ask once, at FinishWriting.
 /// Attributes: an operation calls its AttributeWriter once, while the start tag is open, with an emitter to be called
 ///             once an attribute. Operations of this writer in there, assigning to it included, and an emitter that is
-///             kept and called later are misuse (NestedOperation). An AttributeWriter must not be empty
-///             (std::bad_function_call). What it throws passes through: nothing is written, and the writer is as
-///             before unless it had refused an attribute.
+///             kept and called later are misuse (NestedOperation); it must not outlive its writer. An AttributeWriter
+///             must not be empty (std::bad_function_call). What it throws passes through: nothing is written, and the
+///             writer is as before unless it had refused an attribute.
 /// Stream:     not owned, and must live until the last operation on it. Each operation hands its text over with one
 ///             unformatted write, so that width and fill of the stream do not touch texts. Whether the stream took it,
 ///             the stream says, not the writer. A stream that throws does so after the step: the element counts as
