@@ -1,6 +1,7 @@
 #include <Utilities/Base64.h>
 
 #include <Exceptions/ArgumentException.h>
+#include <Platform/Base64Blocks.h>
 #include <Platform/WideBlock.h>
 
 #include <algorithm>
@@ -18,6 +19,8 @@ namespace
 
 constexpr std::string_view c_symbols = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 constexpr wchar_t c_filler = L'=';
+// Text is filled piece by piece, so that what the resizing wrote is still in the cache when the symbols follow.
+constexpr std::size_t c_pieceSize = 3 * 1024;
 
 struct SymbolPair
 {
@@ -56,6 +59,25 @@ wchar_t* EncodeGroup(unsigned bits, wchar_t* target)
     return target + 4;
 }
 
+/// Only the last piece may have a size that is no multiple of 3.
+void AppendEncoded(unsigned char const* data, std::size_t size, std::wstring& text)
+{
+    std::size_t const start = text.size();
+    text.resize(start + (size / 3 + (size % 3 != 0)) * 4, c_filler);
+    wchar_t* target = text.data() + start;
+    std::size_t const taken = Platform::EncodeBase64Blocks(data, size, target);
+    target += taken / 3 * 4;
+    unsigned char const* const end = data + size / 3 * 3;
+    for (data += taken; data != end; data += 3)
+        target = EncodeGroup(static_cast<unsigned>(data[0] << 16 | data[1] << 8 | data[2]), target);
+    if (size % 3 == 0)
+        return;
+
+    wchar_t group[4];
+    EncodeGroup(static_cast<unsigned>(data[0] << 16 | (size % 3 == 2 ? data[1] << 8 : 0)), group);
+    std::copy_n(group, size % 3 + 1, target); // the fillers stand there already
+}
+
 int GetValue(wchar_t symbol)
 {
     std::uint32_t const unit = Platform::ToUnsigned(symbol);
@@ -74,6 +96,21 @@ unsigned DecodeGroup(wchar_t const* symbols)
     return static_cast<unsigned>(first << 18 | second << 12 | third << 6 | fourth);
 }
 
+/// Answers the end of the bytes.
+unsigned char* DecodeGroups(wchar_t const* symbols, std::size_t size, unsigned char* target)
+{
+    std::size_t taken = Platform::DecodeBase64Blocks(symbols, size, target);
+    target += taken / 4 * 3;
+    for (; taken != size; taken += 4, target += 3)
+    {
+        unsigned const bits = DecodeGroup(symbols + taken);
+        target[0] = static_cast<unsigned char>(bits >> 16);
+        target[1] = static_cast<unsigned char>(bits >> 8);
+        target[2] = static_cast<unsigned char>(bits);
+    }
+    return target;
+}
+
 std::size_t CountFillers(std::wstring const& text)
 {
     auto const last = std::find_if(text.rbegin(), text.rend(), [](wchar_t unit) { return unit != c_filler; });
@@ -84,17 +121,15 @@ std::size_t CountFillers(std::wstring const& text)
 
 std::wstring Base64::Encode(unsigned char const* data, unsigned long long size)
 {
-    std::wstring text((size / 3 + (size % 3 != 0)) * 4, c_filler);
-    wchar_t* target = text.data();
-    unsigned char const* const end = data + size / 3 * 3;
-    for (; data != end; data += 3)
-        target = EncodeGroup(static_cast<unsigned>(data[0] << 16 | data[1] << 8 | data[2]), target);
-    if (size % 3 == 0)
-        return text;
-
-    wchar_t group[4];
-    EncodeGroup(static_cast<unsigned>(data[0] << 16 | (size % 3 == 2 ? data[1] << 8 : 0)), group);
-    std::copy_n(group, size % 3 + 1, target); // the fillers stand there already
+    std::wstring text;
+    text.reserve((size / 3 + (size % 3 != 0)) * 4);
+    unsigned char const* const end = data + size;
+    while (data != end)
+    {
+        std::size_t const piece = std::min(static_cast<std::size_t>(end - data), c_pieceSize);
+        AppendEncoded(data, piece, text);
+        data += piece;
+    }
     return text;
 }
 
@@ -112,22 +147,14 @@ std::unique_ptr<SizedArray<unsigned char>> Base64::Decode(std::wstring const& te
         throw std::invalid_argument("too many filler symbols (=)");
 
     auto bytes = std::make_unique<SizedArray<unsigned char>>(text.size() / 4 * 3 - fillers);
-    unsigned char* target = bytes->GetData();
-    wchar_t const* symbols = text.data();
-    wchar_t const* const end = symbols + text.size() - (fillers != 0 ? 4 : 0);
-    for (; symbols != end; symbols += 4)
-    {
-        unsigned const bits = DecodeGroup(symbols);
-        *target++ = static_cast<unsigned char>(bits >> 16);
-        *target++ = static_cast<unsigned char>(bits >> 8);
-        *target++ = static_cast<unsigned char>(bits);
-    }
+    std::size_t const whole = text.size() - (fillers != 0 ? 4 : 0);
+    unsigned char* const target = DecodeGroups(text.data(), whole, bytes->GetData());
     if (fillers == 0)
         return bytes;
-    unsigned const bits = DecodeGroup(symbols);
-    *target++ = static_cast<unsigned char>(bits >> 16);
+    unsigned const bits = DecodeGroup(text.data() + whole);
+    target[0] = static_cast<unsigned char>(bits >> 16);
     if (fillers == 1)
-        *target = static_cast<unsigned char>(bits >> 8);
+        target[1] = static_cast<unsigned char>(bits >> 8);
     return bytes;
 }
 

@@ -1,9 +1,10 @@
 #include <Exceptions/NullPointerException.h>
+#include <Platform/WideBlock.h>
 #include <Utilities/TextReplacement.h>
 #include <Utilities/WStringHelper.h>
 
 #include <algorithm>
-#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 
@@ -32,18 +33,42 @@ std::int64_t ParseDigits(wchar_t const* digit, std::int64_t limit) noexcept
     return std::min(value, limit);
 }
 
-using HexDigits = std::array<wchar_t, 2>;
+constexpr std::size_t c_hexBlockSize = 16; // bytes
+// Long data goes piece by piece, so that what the resizing wrote is still in the cache when the digits follow.
+constexpr std::size_t c_hexPieceSize = 32 * c_hexBlockSize;
 
-constexpr std::array<HexDigits, 256> MakeHexDigits() noexcept
+wchar_t GetHexDigit(unsigned value) noexcept
 {
-    constexpr wchar_t const* digits = L"0123456789ABCDEF";
-    std::array<HexDigits, 256> table{};
-    for (std::size_t byte = 0; byte < table.size(); ++byte)
-        table[byte] = { digits[byte / 16], digits[byte % 16] };
-    return table;
+    return static_cast<wchar_t>(value < 10 ? '0' + value : 'A' - 10 + value);
 }
 
-constexpr std::array<HexDigits, 256> c_hexDigits = MakeHexDigits();
+__m128i GetHexDigits(__m128i values) noexcept
+{
+    __m128i const isLetter = _mm_cmpgt_epi8(values, _mm_set1_epi8(9));
+    __m128i const offset = _mm_and_si128(isLetter, _mm_set1_epi8('A' - 10 - '0'));
+    return _mm_add_epi8(_mm_add_epi8(values, _mm_set1_epi8('0')), offset);
+}
+
+void StoreHexBlock(__m128i bytes, wchar_t* target) noexcept
+{
+    __m128i const nibble = _mm_set1_epi8(0x0F);
+    __m128i const high = GetHexDigits(_mm_and_si128(_mm_srli_epi16(bytes, 4), nibble));
+    __m128i const low = GetHexDigits(_mm_and_si128(bytes, nibble));
+    Platform::StoreWidened(target, _mm_unpacklo_epi8(high, low));
+    Platform::StoreWidened(target + c_hexBlockSize, _mm_unpackhi_epi8(high, low));
+}
+
+void StoreHex(unsigned char const* data, std::size_t size, wchar_t* target) noexcept
+{
+    unsigned char const* const end = data + size;
+    for (; static_cast<std::size_t>(end - data) >= c_hexBlockSize; data += c_hexBlockSize, target += 2 * c_hexBlockSize)
+        StoreHexBlock(Platform::LoadBytes(data), target);
+    for (; data != end; ++data)
+    {
+        *target++ = GetHexDigit(*data >> 4U);
+        *target++ = GetHexDigit(*data & 15U);
+    }
+}
 
 } // namespace
 
@@ -105,11 +130,14 @@ void WStringHelper::AppendHex(unsigned char const* data, unsigned int size, std:
         return;
     if (data == nullptr)
         throw NullPointerException();
-    std::size_t const start = target.size();
-    target.resize(start + 2 * static_cast<std::size_t>(size));
-    wchar_t* digits = target.data() + start;
-    for (std::size_t at = 0; at < size; ++at, digits += 2)
-        std::copy_n(c_hexDigits[data[at]].data(), 2, digits);
+    target.reserve(target.size() + 2 * static_cast<std::size_t>(size));
+    for (std::size_t at = 0; at < size; at += c_hexPieceSize)
+    {
+        std::size_t const piece = std::min(size - at, c_hexPieceSize);
+        std::size_t const start = target.size();
+        target.resize(start + 2 * piece);
+        StoreHex(data + at, piece, target.data() + start);
+    }
 }
 
 std::wstring const& WStringHelper::Empty()

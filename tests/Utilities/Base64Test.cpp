@@ -50,6 +50,30 @@ std::wstring EncodeBitByBit(std::vector<unsigned char> const& bytes)
     return text;
 }
 
+std::vector<unsigned char> MakeBytes(std::size_t size, std::mt19937& random)
+{
+    std::vector<unsigned char> bytes(size);
+    std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<unsigned char>(random()); });
+    return bytes;
+}
+
+// Group by group: too little at a time for anything but the plain way.
+std::wstring EncodeByGroups(std::vector<unsigned char> const& bytes)
+{
+    std::wstring text;
+    for (std::size_t at = 0; at < bytes.size(); at += 3)
+        text += Base64::Encode(bytes.data() + at, std::min<std::size_t>(3, bytes.size() - at));
+    return text;
+}
+
+std::string DecodeByGroups(std::wstring const& text)
+{
+    std::string bytes;
+    for (std::size_t at = 0; at < text.size(); at += 4)
+        bytes += Decoded(text.substr(at, 4));
+    return bytes;
+}
+
 } // namespace
 
 TEST(Base64, BytesThereAndBack)
@@ -57,8 +81,7 @@ TEST(Base64, BytesThereAndBack)
     std::mt19937 random(20240229);
     for (std::size_t size = 0; size < 200; ++size)
     {
-        std::vector<unsigned char> bytes(size);
-        std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<unsigned char>(random()); });
+        std::vector<unsigned char> const bytes = MakeBytes(size, random);
         std::wstring const text = Base64::Encode(bytes.data(), size);
         ASSERT_EQ(EncodeBitByBit(bytes), text) << size;
         ASSERT_EQ(std::string(bytes.begin(), bytes.end()), Decoded(text)) << size;
@@ -66,6 +89,40 @@ TEST(Base64, BytesThereAndBack)
     }
     EXPECT_EQ(L"TWE=", Base64::Encode(reinterpret_cast<unsigned char const*>("Ma"), 2));
     EXPECT_EQ(L"", Base64::Encode(nullptr, 0));
+}
+
+TEST(Base64, LongTextsAsGroupByGroup)
+{
+    std::mt19937 random(20240229);
+    for (std::size_t const size : { 767U, 768U, 769U, 1536U, 65'534U, 100'000U })
+    {
+        std::vector<unsigned char> const bytes = MakeBytes(size, random);
+        std::wstring text = Base64::Encode(bytes.data(), size);
+        ASSERT_EQ(EncodeByGroups(bytes), text) << size;
+        ASSERT_EQ(DecodeByGroups(text), Decoded(text)) << size;
+        text[random() % (size - 4)] = L'='; // the plain way goes on from here
+        text.resize(text.size() - 4);
+        std::wstring const first = text.substr(0, text.find(L'=') / 4 * 4);
+        std::string const decoded = Decoded(text);
+        ASSERT_EQ(DecodeByGroups(first), decoded.substr(0, first.size() / 4 * 3)) << size;
+        ASSERT_EQ(DecodeByGroups(text.substr(first.size() + 4)), decoded.substr(first.size() / 4 * 3 + 3)) << size;
+    }
+}
+
+TEST(Base64, FindsAForeignUnitAnywhere)
+{
+    std::mt19937 random(20240229);
+    std::wstring const text = EncodeByGroups(MakeBytes(90, random));
+    std::vector<unsigned> foreign = { 0, '-', '_', ' ', 0x7F, 0x80, 0xC1, 0x141, 0x7FFF, 0x8041, 0xFF41, 0xFFFF };
+    if (c_hasWideElements)
+        foreign.insert(foreign.end(), { 0x10041, 0x410000, 0x7FFFFF41, 0x80000041, 0xFFFFFF41, 0xFFFFFFFF });
+    for (std::size_t place = 0; place < text.size(); ++place)
+        for (unsigned const unit : foreign)
+        {
+            std::wstring broken = text;
+            broken[place] = static_cast<wchar_t>(unit);
+            ASSERT_THROW(Base64::Decode(broken), Vek::ArgumentException) << unit << " at " << place;
+        }
 }
 
 TEST(Base64, RefusesWhatIsNone)

@@ -69,7 +69,8 @@ TEST(FileHelper, ExistenceHasThreeStates)
 TEST(FileHelper, ReadsWholeFilesOnly)
 {
     TemporaryFolder const folder;
-    std::string const bytes = std::string("a\r\n\x1A\0b", 6) + std::string(3 << 20, 'z');
+    std::string bytes("a\r\n\x1A\0b", 6);
+    bytes.append(3 << 20, 'z');
     EXPECT_EQ(Read(folder.Write("file", bytes)), bytes);
     EXPECT_EQ(Read(folder.Write("empty", "")), "");
     for (std::wstring const& path : { folder.At(L"missing"), folder.At(L"missing/file"), folder.GetPath().wstring(),

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <vector>
 
 using namespace Vek::Framework::Utilities;
 
@@ -53,6 +54,16 @@ TEST(HexConverter, ReadsWhatWStringHelperWrites)
         WStringHelper::AppendHex(&byte, 1, text);
         ASSERT_EQ(byte, HexConverter::ReadByte(text, value));
         ASSERT_EQ(byte, HexConverter::ReadByte(WStringHelper::ToLowerCase(text), value));
+    }
+    std::vector<unsigned char> bytes(1500);
+    for (std::size_t at = 0; at < bytes.size(); ++at)
+        bytes[at] = static_cast<unsigned char>(at * 7 + at / 256);
+    for (unsigned const size : { 0U, 1U, 15U, 16U, 17U, 47U, 512U, 513U, 1500U })
+    {
+        std::wstring byteByByte = L"x";
+        for (unsigned at = 0; at < size; ++at)
+            WStringHelper::AppendHex(&bytes[at], 1, byteByByte);
+        ASSERT_EQ(byteByByte, L"x" + WStringHelper::GetHex(bytes.data(), size)) << size;
     }
     EXPECT_EQ(0xFF, HexConverter::ReadByte(L"0aFf", 1));
     for (unsigned long long const index : { 2ULL, 3ULL, 0x8000000000000000ULL, ~0ULL })
