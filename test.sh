@@ -69,9 +69,11 @@ test_target()
     fi
 }
 
-packages=(g++ cmake ninja-build googletest clang-format-14 gnucash-common python3 pkg-config binutils)
+packages=(g++ cmake ninja-build googletest clang-format-14 gnucash-common python3 pkg-config binutils gzip
+    locales unicode-data yudit-doc)
 [ ${#targets[@]} -eq 1 ] || packages+=(g++-mingw-w64-x86-64-posix wine wine64)
-if ! require_packages "${packages[@]}"; then
+if ! require_packages "${packages[@]}" ||
+    ! require_documents yudit-doc /usr/share/doc/yudit-doc/UTF-8-test.txt.gz; then
     failed=1
     finish
 fi

@@ -106,56 +106,6 @@ TEST(WStringHelperComparison, AgreesWithThePlainRuleOnRandomTexts)
     }
 }
 
-TEST(WStringHelperComparison, WholeAlphabetsHaveTheirPartners)
-{
-    struct Row
-    {
-        unsigned first, last, distance;
-        char const* why;
-    };
-    Row const rows[] = {
-        { 'A', 'Z', 32, "ASCII" },
-        { 0xC0, 0xD6, 32, "Latin-1 before the multiplication sign" },
-        { 0xD8, 0xDE, 32, "Latin-1 behind it" },
-        { 0x391, 0x3A1, 32, "Greek before the final sigma" },
-        { 0x3A3, 0x3AB, 32, "Greek behind it" },
-        { 0x400, 0x40F, 80, "Cyrillic extensions" },
-        { 0x410, 0x42F, 32, "Cyrillic" },
-        { 0x531, 0x556, 48, "Armenian" },
-        { 0xFF21, 0xFF3A, 32, "full width" },
-    };
-    for (Row const& row : rows)
-    {
-        SCOPED_TRACE(row.why);
-        for (unsigned upper = row.first; upper <= row.last; ++upper)
-            EXPECT_TRUE(WStringHelper::EqualsIgnoreCase(MakeText({ upper }), MakeText({ upper + row.distance })));
-        EXPECT_FALSE(
-            WStringHelper::EqualsIgnoreCase(MakeText({ row.first - 1 }), MakeText({ row.first - 1 + row.distance })));
-    }
-}
-
-TEST(WStringHelperComparison, UnitsWithoutAWayBackAreThemselves)
-{
-    struct Row
-    {
-        unsigned unit, other;
-        char const* why;
-    };
-    Row const rows[] = {
-        { 0x130, 'i', "dotted I" },           { 0x131, 'I', "dotless i" },
-        { 0x212A, 'k', "Kelvin sign" },       { 0x1E9E, 0xDF, "capital sharp s" },
-        { 0xB5, 0x3BC, "micro sign and mu" }, { 0x17F, 's', "long s" },
-        { 0xD7, 0xF7, "signs, no letters" },  { 0xDF, 0xFF, "sharp s and y with diaeresis" },
-    };
-    for (Row const& row : rows)
-    {
-        SCOPED_TRACE(row.why);
-        EXPECT_FALSE(WStringHelper::EqualsIgnoreCase(MakeText({ row.unit }), MakeText({ row.other })));
-        EXPECT_FALSE(WStringHelper::EqualsIgnoreCase(std::wstring(8, static_cast<wchar_t>(row.unit)),
-                                                     std::wstring(8, static_cast<wchar_t>(row.other))));
-    }
-}
-
 TEST(WStringHelperComparison, ElementsAboveTheUnitsEqualOnlyThemselvesAndSortLast)
 {
     if (!c_hasWideElements)
