@@ -38,26 +38,25 @@ TEST(XMLCodes, EveryByteGoesToItsNameAndBack)
 
 TEST(XMLCodes, NamesStandAtTheirBytes)
 {
-    struct Row
-    {
-        char byte;
-        char const* name;
-    };
+    // clang-format off
+    struct Row { char byte; char const* name; };
     // Both ends of every run of the table.
-    Row const rows[] = { { '\n', "#10" },     { '\r', "#13" },     { '<', "lt" },        { '>', "gt" },
-                         { '&', "amp" },      { '\'', "apos" },    { '"', "quot" },      { '\241', "iexcl" },
-                         { '\254', "not" },   { '\256', "reg" },   { '\277', "iquest" }, { '\300', "Agrave" },
-                         { '\327', "times" }, { '\337', "szlig" }, { '\367', "divide" }, { '\377', "yuml" },
-                         { '\200', "euro" } };
+    Row const rows[] = {
+        { '\n', "#10" }, { '\r', "#13" }, { '<', "lt" }, { '>', "gt" }, { '&', "amp" }, { '\'', "apos" },
+        { '"', "quot" }, { '\241', "iexcl" }, { '\254', "not" }, { '\256', "reg" }, { '\277', "iquest" },
+        { '\300', "Agrave" }, { '\327', "times" }, { '\337', "szlig" }, { '\367', "divide" }, { '\377', "yuml" },
+        { '\200', "euro" },
+    };
+    // clang-format on
     for (Row const& row : rows)
         EXPECT_STREQ(row.name, XMLCodes::FindCode(row.byte));
 }
 
 TEST(XMLCodes, OnlyWholeNamesInTheirCaseAreFound)
 {
-    for (std::string const& code : { std::string(), std::string("AMP"), std::string("am"), std::string("amp;"),
-                                     std::string("amp\0", 4), std::string("\0amp", 4), std::string("nbsp"),
-                                     std::string("#65"), std::string("Agraves"), std::string(1000, 'a') })
+    using namespace std::string_literals;
+    for (std::string const& code :
+         { ""s, "AMP"s, "am"s, "amp;"s, "amp\0"s, "\0amp"s, "nbsp"s, "#65"s, "Agraves"s, std::string(1000, 'a') })
     {
         SCOPED_TRACE(code);
         char symbol = 'x';

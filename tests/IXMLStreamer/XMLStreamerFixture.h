@@ -4,6 +4,7 @@
 #include <IXMLStreamer/XMLStreamer.h>
 
 #include <sstream>
+#include <streambuf>
 #include <string>
 
 namespace XMLStreamerTests
@@ -40,7 +41,31 @@ public:
         return streamer.ProcessSource(stream);
     }
 
-    /// Code, expected symbol, line and column of the error, line and column of the parser, path, trace.
+    /// Hands the document out in two reads, so that what is in memory ends at `split`; answers what came of it.
+    std::string ReadInTwo(std::string const& document, std::size_t split)
+    {
+        struct : std::streambuf
+        {
+            std::streamsize xsgetn(char* target, std::streamsize size) override
+            {
+                std::string const& piece = pieces[next == 1 ? 1 : 0];
+                if (next > 1 || piece.size() > static_cast<std::size_t>(size))
+                    return 0;
+                ++next;
+                return static_cast<std::streamsize>(piece.copy(target, piece.size()));
+            }
+            std::string pieces[2];
+            int next = 0;
+        } buffer;
+        buffer.pieces[0] = document.substr(0, split);
+        buffer.pieces[1] = document.substr(split);
+        buffer.next = split == 0 ? 1 : 0;
+        trace.clear();
+        std::istream stream(&buffer);
+        return Describe(streamer.ProcessSource(stream));
+    }
+
+    /// "ok" or code, expected symbol and place of the error; then line and column of the parser, path, trace.
     std::string Describe(bool isRead) const
     {
         StreamerError const& error = streamer.GetError();
@@ -48,9 +73,11 @@ public:
         if (isRead != (error.GetErrorCode() == StreamerError::Ok))
             text << "result and code differ ";
         text << static_cast<int>(error.GetErrorCode()) << " [" << error.GetExpectedSymbol() << "] " << error.GetLine()
-             << ':' << error.GetColumn() << ' ' << streamer.GetParserResult().line << ':'
-             << streamer.GetParserResult().column << ' ' << streamer.GetOpenElementPath() << ' ' << trace;
-        return text.str();
+             << ':' << error.GetColumn();
+        std::string const place = std::to_string(streamer.GetParserResult().line) + ':' +
+                                  std::to_string(streamer.GetParserResult().column) + ' ';
+        return (text.str() == "0 [] -1:-1" ? "ok" : text.str()) + ' ' + place + streamer.GetOpenElementPath() + ' ' +
+               trace;
     }
 
     XMLStreamer streamer;

@@ -17,39 +17,13 @@ namespace
 using Emitter = XMLWriter::AttributeEmitter;
 using Step = std::function<bool(XMLWriter&)>;
 
-/// Takes nothing.
-class FullBuffer : public std::streambuf
-{
-};
-
-void None(Emitter const&)
-{
-}
-
-bool Begin(XMLWriter& writer)
-{
-    return writer.WriteBeginStructure("a", None);
-}
-
-bool End(XMLWriter& writer)
-{
-    return writer.WriteEndStructure();
-}
-
-bool Content(XMLWriter& writer)
-{
-    return writer.WriteContentValue("b", 1, None) && writer.WriteContent("b", None);
-}
-
-bool Comment(XMLWriter& writer)
-{
-    return writer.WriteComment("c");
-}
-
-bool Finish(XMLWriter& writer)
-{
-    return writer.FinishWriting();
-}
+auto const None = [](Emitter const&) {};
+auto const Begin = [](XMLWriter& writer) { return writer.WriteBeginStructure("a", None); };
+auto const End = [](XMLWriter& writer) { return writer.WriteEndStructure(); };
+auto const Content = [](XMLWriter& writer)
+{ return writer.WriteContentValue("b", 1, None) && writer.WriteContent("b", None); };
+auto const Comment = [](XMLWriter& writer) { return writer.WriteComment("c"); };
+auto const Finish = [](XMLWriter& writer) { return writer.FinishWriting(); };
 
 } // namespace
 
@@ -57,19 +31,16 @@ TEST(XMLWriter, OperationsInEveryState)
 {
     constexpr int c_done = -1;   // true, no error
     constexpr int c_failed = -2; // false, without an error of its own
+    // Outcomes in these states: failed, never started, finished, started, open, closed.
     struct Row
     {
         Step operation;
-        char const* name;
         int outcome[6]; // c_done, c_failed or the code of the error
     };
-    // States: failed, never started, finished, started, open, closed.
     Row const rows[] = {
-        { Begin, "begin", { c_failed, 3, 3, c_done, c_done, 2 } },
-        { End, "end", { c_failed, 3, 3, 1, c_done, 6 } },
-        { Content, "content", { c_failed, 3, 3, 4, c_done, 2 } },
-        { Comment, "comment", { c_failed, 3, c_done, c_done, c_done, c_done } },
-        { Finish, "finish", { c_failed, 3, 3, 1, 5, c_done } },
+        { Begin, { c_failed, 3, 3, c_done, c_done, 2 } }, { End, { c_failed, 3, 3, 1, c_done, 6 } },
+        { Content, { c_failed, 3, 3, 4, c_done, 2 } },    { Comment, { c_failed, 3, c_done, c_done, c_done, c_done } },
+        { Finish, { c_failed, 3, 3, 1, 5, c_done } },
     };
     std::ostringstream stream;
     Step const start = [&stream](XMLWriter& writer) { return writer.StartWriting(stream, false); };
@@ -80,7 +51,7 @@ TEST(XMLWriter, OperationsInEveryState)
     for (Row const& row : rows)
         for (int state = 0; state < 6; ++state)
         {
-            SCOPED_TRACE(row.name + std::to_string(state));
+            SCOPED_TRACE(std::to_string(&row - rows) + " in " + std::to_string(state));
             stream.str("");
             XMLWriter writer;
             for (Step const& step : preparations[state])
@@ -90,9 +61,9 @@ TEST(XMLWriter, OperationsInEveryState)
             int const expected = row.outcome[state];
             int const code = expected >= 0 ? expected : state == 0 ? 1 : 0;
             EXPECT_EQ(expected == c_done, row.operation(writer));
-            EXPECT_EQ(code, static_cast<int>(writer.GetLastError().GetErrorCode()));
-            EXPECT_EQ(-1, writer.GetLastError().GetLine());
-            EXPECT_EQ(-1, writer.GetLastError().GetColumn());
+            WriterError const& error = writer.GetLastError();
+            EXPECT_EQ(code, static_cast<int>(error.GetErrorCode()));
+            EXPECT_TRUE(error.GetLine() == -1 && error.GetColumn() == -1);
             if (code == 0)
                 continue;
             EXPECT_FALSE(Comment(writer)); // failed for good
@@ -107,19 +78,14 @@ TEST(XMLWriter, Layout)
     std::ostringstream stream;
     XMLWriter writer;
     EXPECT_TRUE(writer.StartWriting(stream, true));
-    EXPECT_TRUE(writer.WriteComment("1 < 2 -->"));
-    EXPECT_TRUE(writer.WriteComment(""));
+    EXPECT_TRUE(writer.WriteComment("1 < 2 -->") && writer.WriteComment(""));
     EXPECT_TRUE(writer.WriteBeginStructure("A", [](Emitter emit) { emit("a", "a\"b"), emit("<", ""); }));
     EXPECT_TRUE(writer.WriteContentValue("B", "x<y\r\n", None));
     EXPECT_TRUE(writer.WriteContentValue("C&", "", [](Emitter const& emit) { emit("a", "1"); }));
-    EXPECT_TRUE(writer.WriteBeginStructure("longer", None));
-    EXPECT_TRUE(writer.WriteContent("", None));
+    EXPECT_TRUE(writer.WriteBeginStructure("longer", None) && writer.WriteContent("", None));
     EXPECT_TRUE(writer.WriteContentValue("null", static_cast<char const*>(nullptr), None));
-    EXPECT_TRUE(writer.WriteComment("deep"));
-    EXPECT_TRUE(writer.WriteEndStructure());
-    EXPECT_TRUE(writer.WriteEndStructure());
-    EXPECT_TRUE(writer.FinishWriting());
-    EXPECT_TRUE(writer.WriteComment("behind"));
+    EXPECT_TRUE(writer.WriteComment("deep") && End(writer) && End(writer));
+    EXPECT_TRUE(writer.FinishWriting() && writer.WriteComment("behind"));
     EXPECT_EQ("<?xml version=\"1.0\"?>\n"
               "<!--1 &lt; 2 --&gt;-->\n"
               "<A a=\"a&quot;b\" <=\"\">\n"
@@ -140,24 +106,22 @@ TEST(XMLWriter, RefusedAttributeOrNameFailsTheWriter)
     auto const emptyName = [](Emitter const& emit) { emit("a", "1"), emit("", "2"), emit("c", "3"); };
     struct Row
     {
-        char const* why;
         Step operation;
         char const* written;
     };
     Row const rows[] = {
-        { "structure", [&](XMLWriter& w) { return w.WriteBeginStructure("b", emptyName); }, "\t<b a=\"1\" c=\"3\"" },
-        { "value", [&](XMLWriter& w) { return w.WriteContentValue("b", 5, emptyName); }, "\t<b a=\"1\" c=\"3\"" },
-        { "no value", [&](XMLWriter& w) { return w.WriteContent("b", emptyName); }, "\t<b a=\"1\" c=\"3\"" },
-        { "structure without name", [&](XMLWriter& w) { return w.WriteBeginStructure("", emptyName); }, "" },
+        { [&](XMLWriter& w) { return w.WriteBeginStructure("b", emptyName); }, "\t<b a=\"1\" c=\"3\"" },
+        { [&](XMLWriter& w) { return w.WriteContentValue("b", 5, emptyName); }, "\t<b a=\"1\" c=\"3\"" },
+        { [&](XMLWriter& w) { return w.WriteContent("b", emptyName); }, "\t<b a=\"1\" c=\"3\"" },
+        { [&](XMLWriter& w) { return w.WriteBeginStructure("", emptyName); }, "" },
     };
     for (Row const& row : rows)
     {
-        SCOPED_TRACE(row.why);
         std::ostringstream stream;
         XMLWriter writer;
         EXPECT_TRUE(writer.StartWriting(stream, false) && Begin(writer));
         EXPECT_FALSE(row.operation(writer));
-        EXPECT_EQ(WriterError::EmptyName, writer.GetLastError().GetErrorCode());
+        EXPECT_EQ(WriterError::EmptyName, writer.GetLastError().GetErrorCode()) << &row - rows;
         EXPECT_STREQ("", writer.GetLastError().GetDescription());
         EXPECT_FALSE(End(writer));
         EXPECT_EQ(std::string("<a>\n") + row.written, stream.str());
@@ -207,11 +171,9 @@ TEST(XMLWriter, EndTagHasTheNameOfItsStartTag)
     XMLWriter writer;
     std::string name = "first";
     auto const rename = [&name](Emitter const&) { name = "a much longer name than that"; };
-    EXPECT_TRUE(writer.StartWriting(stream, false));
-    EXPECT_TRUE(writer.WriteBeginStructure(name, rename));
+    EXPECT_TRUE(writer.StartWriting(stream, false) && writer.WriteBeginStructure(name, rename));
     name = "second";
-    EXPECT_TRUE(writer.WriteContentValue(name, "x", rename));
-    EXPECT_TRUE(End(writer));
+    EXPECT_TRUE(writer.WriteContentValue(name, "x", rename) && End(writer));
     EXPECT_EQ("<first>\n\t<second>x</second>\n</first>\n", stream.str());
 }
 
@@ -230,7 +192,9 @@ TEST(XMLWriter, FailedStreamIsTheStreamsToReport)
     EXPECT_TRUE(Begin(writer) && Content(writer) && End(writer) && Finish(writer));
     EXPECT_EQ("", stream.str());
 
-    FullBuffer full;
+    struct : std::streambuf
+    {
+    } full; // takes nothing
     std::ostream throwing(&full);
     throwing.exceptions(std::ios::badbit);
     EXPECT_TRUE(writer.StartWriting(throwing, false));

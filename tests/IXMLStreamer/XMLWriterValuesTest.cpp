@@ -22,9 +22,7 @@ namespace
 
 using Emitter = XMLWriter::AttributeEmitter;
 
-void None(Emitter const&)
-{
-}
+auto const None = [](Emitter const&) {};
 
 template <class V>
 concept IsContent = requires(XMLWriter& writer, V value)
@@ -59,8 +57,7 @@ void ExpectFormattedByTheStream(std::ostream const& format, V value)
     std::ostringstream stream;
     stream.copyfmt(format);
     XMLWriter writer;
-    EXPECT_TRUE(writer.StartWriting(stream, true));
-    EXPECT_TRUE(writer.WriteBeginStructure("a", None));
+    EXPECT_TRUE(writer.StartWriting(stream, true) && writer.WriteBeginStructure("a", None));
     EXPECT_TRUE(writer.WriteContentValue("b", value, None));
     EXPECT_EQ("<?xml version=\"1.0\"?>\n<a>\n\t<b>" + plain.str() + "</b>\n", stream.str());
     EXPECT_EQ(0, stream.width());
@@ -70,10 +67,10 @@ std::string EscapeByteByByte(std::string const& text)
 {
     std::string escaped;
     for (char const c : text)
-        if (char const* const code = XMLCodes::FindCode(c); code != nullptr)
-            escaped += std::string("&") + code + ";";
-        else
-            escaped += c;
+    {
+        char const* const code = XMLCodes::FindCode(c);
+        escaped += code == nullptr ? std::string(1, c) : std::string("&") + code + ";";
+    }
     return escaped;
 }
 
@@ -119,12 +116,9 @@ TEST(XMLWriterValues, WidthOfTheStreamIsForNumbersOnly)
     std::ostringstream stream;
     stream << std::boolalpha << std::setw(4);
     XMLWriter writer;
-    EXPECT_TRUE(writer.StartWriting(stream, false));
-    EXPECT_TRUE(writer.WriteBeginStructure("a", None));
-    EXPECT_TRUE(writer.WriteContentValue("b", true, None));
-    EXPECT_TRUE(writer.WriteContentValue("b", false, None));
-    EXPECT_TRUE(writer.WriteContentValue("b", 7, None));
-    EXPECT_TRUE(writer.WriteContentValue("b", 7, None));
+    EXPECT_TRUE(writer.StartWriting(stream, false) && writer.WriteBeginStructure("a", None));
+    EXPECT_TRUE(writer.WriteContentValue("b", true, None) && writer.WriteContentValue("b", false, None));
+    EXPECT_TRUE(writer.WriteContentValue("b", 7, None) && writer.WriteContentValue("b", 7, None));
     EXPECT_EQ("<a>\n\t<b>1</b>\n\t<b>0</b>\n\t<b>   7</b>\n\t<b>7</b>\n", stream.str());
 }
 
@@ -142,8 +136,7 @@ TEST(XMLWriterValues, TextsAreEscapedAndReadBack)
         SCOPED_TRACE(i);
         std::stringstream stream;
         XMLWriter writer;
-        EXPECT_TRUE(writer.StartWriting(stream, true));
-        EXPECT_TRUE(writer.WriteComment(content));
+        EXPECT_TRUE(writer.StartWriting(stream, true) && writer.WriteComment(content));
         EXPECT_TRUE(writer.WriteBeginStructure("a", None));
         EXPECT_TRUE(writer.WriteContentValue("b", content, [&](Emitter const& emit) { emit("c", attribute); }));
         EXPECT_TRUE(writer.WriteEndStructure() && writer.FinishWriting());
