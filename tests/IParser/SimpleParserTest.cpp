@@ -52,27 +52,16 @@ std::string Trace(SimpleParser& parser)
 
 TEST(SimpleParser, CutsSourcesAndCountsPlaces)
 {
-    struct
-    {
-        char const* why;
-        ScannerRules rules;
-        char const* source;
-        char const* trace;
-    } const rows[] = {
-        { "the longest token wins",
-          { { { 1, "=", true }, { 2, "==", true } } },
-          "a==b=",
+    // clang-format off
+    struct { char const* why; ScannerRules rules; char const* source; char const* trace; } const rows[] = {
+        { "the longest token wins", { { { 1, "=", true }, { 2, "==", true } } }, "a==b=",
           "i<a>1:1 #2<==>1:2 i<b>1:4 #1<=>1:5 " },
-        { "a longest token that is not scannable hides shorter ones",
-          { { { 1, "=", true }, { 2, "==", false } } },
-          "a==b",
-          "i<a=>1:1 #1<=>1:3 i<b>1:4 " },
+        { "a longest token that is not scannable hides shorter ones", { { { 1, "=", true }, { 2, "==", false } } },
+          "a==b", "i<a=>1:1 #1<=>1:3 i<b>1:4 " },
         { "a tab is a letter and counts the tab size besides", {}, "x\ty z", "i<x\ty>1:1 i<z>1:8 " },
         { "behind blanks it counts twice", {}, "x \ty", "i<x>1:1 i<\ty>1:9 " },
         { "line feeds, returns and spaces are blanks", {}, "a\r\n b\rc", "i<a>1:1 i<b>2:2 i<c>2:1 " },
-        { "a blank that is a token and ends an identifier is counted for both",
-          { { { 1, "\n", true } } },
-          "a\nb",
+        { "a blank that is a token and ends an identifier is counted for both", { { { 1, "\n", true } } }, "a\nb",
           "i<a>1:1 #1<\n>3:1 i<b>3:2 " },
         { "a comment counts as two lines", {}, "a // b\nc // d", "i<a>1:1 i<c>3:1 " },
         { "and ends an identifier", {}, "ab//c\nd", "i<ab>1:1 i<d>3:1 " },
@@ -84,18 +73,13 @@ TEST(SimpleParser, CutsSourcesAndCountsPlaces)
         { "a text ends an identifier, and may be cut off", {}, "a\"abc", "i<a>1:1 cut<abc>1:6 " },
         { "a cut text may be empty", {}, "'\"", "i<'>1:1 cut<>1:3 " },
         { "comments go before tokens, tokens before texts and blanks",
-          { { { 1, "//", true }, { 2, "\"", true }, { 3, " ", true } } },
-          "\" //\n",
-          "#2<\">1:1 #3< >1:3 " },
-        { "numbers",
-          {},
-          "1 -2.5 + 7. .5 1.2.3 1-2 1e3",
+          { { { 1, "//", true }, { 2, "\"", true }, { 3, " ", true } } }, "\" //\n", "#2<\">1:1 #3< >1:3 " },
+        { "numbers", {}, "1 -2.5 + 7. .5 1.2.3 1-2 1e3",
           "n<1>1:1 n<-2.5>1:3 n<+>1:8 n<7.>1:10 i<.5>1:13 i<1.2.3>1:16 i<1-2>1:22 i<1e3>1:26 " },
-        { "bytes of the upper half",
-          { { { 1, "\304", true } } },
-          "\344\304\377",
+        { "bytes of the upper half", { { { 1, "\304", true } } }, "\344\304\377",
           "i<\344>1:1 #1<\304>1:2 i<\377>1:3 " },
     };
+    // clang-format on
     for (auto const& row : rows)
     {
         SCOPED_TRACE(row.why);
@@ -108,11 +92,7 @@ TEST(SimpleParser, PassesRawTextThrough)
 {
     SimpleParser parser = MakeParser({ { { 1, "%>", true }, { 2, "<", false } } }, "a b//\n\"<%>c %>%> 5");
     Symbol symbol;
-    auto const next = [&]
-    {
-        parser.GetNextSymbol(symbol);
-        return ToEntry(symbol);
-    };
+    auto const next = [&] { return parser.GetNextSymbol(symbol), ToEntry(symbol); };
     parser.InvokePassThrough();
     EXPECT_EQ("raw<a b//\n\"<>1:1 ", next());
     EXPECT_EQ("Pass-Through block", symbol.GetDescription());
@@ -155,8 +135,7 @@ TEST(SimpleParser, RefusesTokensAndChangesNothing)
     EXPECT_FALSE(parser.AddToken(3, "", "", true)) << "empty";
     EXPECT_FALSE(parser.AddToken(65530, "=", "", true)) << "the id of no symbol";
     EXPECT_EQ(nullptr, parser.GetToken(2));
-    EXPECT_EQ("<", parser.GetToken(1)->GetText());
-    EXPECT_EQ("", parser.GetToken(1)->GetDescription());
+    EXPECT_TRUE(parser.GetToken(1)->GetText() == "<" && parser.GetToken(1)->GetDescription().empty());
     EXPECT_TRUE(parser.AddToken(-7, std::string("<\0", 2), "", true)) << "never found in a source that ends there";
     EXPECT_EQ("#1<<>1:1 #1<<>1:2 i<=>1:3 #1<<>1:4 i<\344>1:5 ", Trace(parser));
 }
@@ -194,13 +173,13 @@ TEST(SimpleParser, CopiesOwnTheirSourceTokensAndRecord)
         EXPECT_EQ("i<b>1:3 i<c>1:5 ", Trace(*parser));
         Symbol const* previous = nullptr;
         std::string texts;
-        parser->ForEachSymbol(
-            [&](Symbol const& recorded)
-            {
-                EXPECT_EQ(previous, recorded.GetPrevSymbol());
-                previous = &recorded;
-                texts += recorded.GetText();
-            });
+        auto const note = [&](Symbol const& recorded)
+        {
+            EXPECT_EQ(previous, recorded.GetPrevSymbol());
+            previous = &recorded;
+            texts += recorded.GetText();
+        };
+        parser->ForEachSymbol(note);
         EXPECT_EQ("a<bc", texts);
     }
 }
@@ -211,14 +190,14 @@ TEST(SimpleParser, AWalkSeesWhatItRecordsAndEndsWithTheSource)
     Symbol symbol;
     parser.GetNextSymbol(symbol);
     std::string texts;
-    parser.ForEachSymbol(
-        [&](Symbol const& recorded)
-        {
-            texts += recorded.GetText();
-            if (texts == "abc")
-                parser.ProvideSource("x y");
-            parser.GetNextSymbol(symbol);
-        });
+    auto const readOn = [&](Symbol const& recorded)
+    {
+        texts += recorded.GetText();
+        if (texts == "abc")
+            parser.ProvideSource("x y");
+        parser.GetNextSymbol(symbol);
+    };
+    parser.ForEachSymbol(readOn);
     EXPECT_EQ("abc", texts);
     EXPECT_EQ("x", symbol.GetText());
     EXPECT_EQ(nullptr, symbol.GetPrevSymbol());
@@ -232,9 +211,8 @@ TEST(SimpleParser, AgreesWithTheNaiveScanner)
     auto const choose = [&](std::size_t end) { return engine() % end; };
     auto const makeText = [&](std::string const& alphabet, std::size_t length)
     {
-        std::string text;
-        while (text.size() < length)
-            text += alphabet[choose(alphabet.size())];
+        std::string text(length, ' ');
+        std::generate(text.begin(), text.end(), [&] { return alphabet[choose(alphabet.size())]; });
         return text;
     };
     std::string const alphabets[] = { "a1.-+ \t", "<=/a\" \n", "/#\"\t\r\n b", "\344=\t '1." };
@@ -259,10 +237,7 @@ TEST(SimpleParser, AgreesWithTheNaiveScanner)
         for (std::string expected = "first"; !expected.empty();)
         {
             if (choose(6) == 0)
-            {
-                naive.InvokePassThrough();
-                parser.InvokePassThrough();
-            }
+                naive.InvokePassThrough(), parser.InvokePassThrough();
             expected = naive.Next();
             bool const isThere = parser.GetNextSymbol(symbol);
             ASSERT_EQ(expected, isThere ? ToEntry(symbol) : "")

@@ -47,24 +47,16 @@ void ExpectInEveryMode(std::vector<Row> const& rows)
 
 } // namespace
 
+// Random grammars, run against a naive parser, do the rest.
 TEST(StateParser, RecognisesTokens)
 {
     StateRules const comparison{ .tokens = { Call("<"), Call("<=") }, .text = c_go };
-    StateRules const prefixes{ .tokens = { Call("a"), Call("abc") }, .text = c_go };
     StateRules const bothCases{ .tokens = { Call("Ab"), CallAnyCase("aB"), CallAnyCase("ABC") }, .text = c_go };
     ExpectInEveryMode({
         { "the longest token wins",
           { comparison },
           "a<=b<",
           "text 'a' @0 in 7\ntoken '<=' @1 in 7\ntext 'b' @3 in 7\ntoken '<' @4 in 7\n-> 0 in 7 at 1:6\n" },
-        { "what was read behind a token is read again",
-          { prefixes },
-          "abaabc",
-          "token 'a' @0 in 7\ntext 'b' @1 in 7\ntoken 'a' @2 in 7\ntoken 'abc' @3 in 7\n-> 0 in 7 at 1:7\n" },
-        { "at the end, too, until nothing is left",
-          { prefixes },
-          "abab",
-          "token 'a' @0 in 7\ntext 'b' @1 in 7\ntoken 'a' @2 in 7\ntext 'b' @3 in 7\n-> 0 in 7 at 1:5\n" },
         { "the token that begins first wins over one found earlier",
           { { .tokens = { Call("b"), Call("abcd") }, .text = c_go } },
           "abcdabc",
@@ -77,39 +69,21 @@ TEST(StateParser, RecognisesTokens)
           { { .tokens = { Call("ab"), CallAnyCase("abc") }, .text = c_go } },
           "ABab",
           "text 'AB' @0 in 7\ntoken 'ab' @2 in 7\n-> 0 in 7 at 1:5\n" },
-        { "only ASCII is folded",
-          { { .tokens = { CallAnyCase("\304END") }, .text = c_go } },
-          "\344end\304eNd",
-          "text '\\344end' @0 in 7\ntoken '\\304END' @4 in 7\n-> 0 in 7 at 1:9\n" },
-        { "zero is a byte like any other",
-          { { .tokens = { { std::string("\0<", 2) } }, .text = c_go } },
-          std::string("\0\0<\0", 4),
-          "text '\\0' @0 in 7\ntoken '\\0<' @1 in 7\ntext '\\0' @3 in 7\n-> 0 in 7 at 1:5\n" },
-        { "blanks part words",
-          { { .text = c_go, .skipsBlanks = true } },
-          " a\tb\r\nc ",
-          "text 'a' @1 in 7\ntext 'b' @3 in 7\ntext 'c' @6 in 7\n-> 0 in 7 at 2:3\n" },
     });
 }
 
 TEST(StateParser, SwitchesAndEnds)
 {
-    Reaction const stop{ Reaction::Stop };
     StateRules const ending{ .tokens = { Call("<") }, .text = c_go, .end = c_refuse };
     ExpectInEveryMode({
         { "a text consumer's switch makes the new state recognise the token",
           { { .tokens = { Call("<=") }, .text = To(1) }, { .tokens = { Call("<"), Call("=") }, .text = c_go } },
           "a<=",
           "text 'a' @0 in 7\ntoken '<' @1 in 1007\ntoken '=' @2 in 1007\n-> 0 in 1007 at 1:4\n" },
-        { "a token consumer's switch",
-          { { .tokens = { Call("<", To(1)) } }, { .text = c_go } },
-          "<<",
-          "token '<' @0 in 7\ntext '<' @1 in 1007\n-> 0 in 1007 at 1:3\n" },
         { "the state after the trailing text sees the end",
           { { .text = To(1), .end = c_refuse }, { .end = c_go } },
           "a\nb",
           "text 'a\\12b' @0 in 7\nend @3 in 1007\n-> 0 in 1007 at 2:2\n" },
-        { "an empty source has an end", { ending }, "", "end @0 in 7\n-> 2 in 7 at 1:1\n" },
         { "a refused end is where the source ends",
           { ending },
           "<\n<\nab",
@@ -123,40 +97,26 @@ TEST(StateParser, SwitchesAndEnds)
           { { .tokens = { { "!!", true, TokenRule::Invalid } }, .text = c_go } },
           "a\r\n\t\r!!",
           "text 'a\\15\\12\\11\\15' @0 in 7\n-> 2 in 7 at 2:3\n" },
-        { "a stop is no failure",
-          { { .tokens = { Call("<", stop) }, .end = c_go } },
-          "\n<<",
-          "token '<' @1 in 7\n-> 0 in 7 at 2:1\n" },
         { "nor with a refusal beside it",
           { { .tokens = { Call("<", { Reaction::StopAndRefuse }) }, .end = c_go } },
           "<<",
           "token '<' @0 in 7\n-> 0 in 7 at 1:1\n" },
-        { "text that nobody takes is dropped",
-          { { .tokens = { Call("<") }, .number = c_go } },
-          "a<1",
-          "token '<' @1 in 7\nnumber 1.000000 @2 in 7\n-> 0 in 7 at 1:4\n" },
     });
 }
 
 TEST(StateParser, TellsNumbersFromTexts)
 {
+    // clang-format off
     struct
     {
         std::string text;
         char const* number; // null for a text
     } const rows[] = {
-        { "12.5", "12.500000" },
-        { "12.5x", nullptr },
-        { " 12", "12.000000" },
-        { "12 ", nullptr },
-        { "-1e2", "-100.000000" },
-        { "1e", nullptr },
-        { "0x10", "16.000000" },
-        { "-", nullptr },
-        { "1e999", nullptr },
-        { "1e-999", nullptr },
-        { std::string("1\0", 2), nullptr },
+        { "12.5", "12.500000" }, { "12.5x", nullptr }, { " 12", "12.000000" }, { "12 ", nullptr },
+        { "-1e2", "-100.000000" }, { "1e", nullptr }, { "0x10", "16.000000" }, { "-", nullptr }, { "1e999", nullptr },
+        { "1e-999", nullptr }, { std::string("1\0", 2), nullptr },
     };
+    // clang-format on
     for (auto const& row : rows)
         for (bool const isTextView : { false, true })
         {
