@@ -83,70 +83,45 @@ TEST(ExceptionHandlerSignals, BlockedSignalsDoNotMakeAFaultDeadly)
         EXPECT_EQ(1, sigismember(&after, signal)) << signal;
 }
 
-TEST_F(ExceptionHandlerDeathTest, FaultOutsideKillsWithItsSignal)
+TEST_F(ExceptionHandlerDeathTest, WhatNoGuardTakesIsForTheHandlerFromBefore)
 {
-    for (int const signal : { SIGSEGV, SIGFPE, SIGTRAP })
+    struct Row
     {
-        auto const die = [signal]
+        char const* why;
+        int signal;
+        void (*handler)(int);
+        int flags;
+        void (*action)();
+        int code; // of the exit, 0 when the signal kills
+    };
+    auto const raiseTrap = [] { raise(SIGTRAP); };
+    Row const rows[] = {
+        { "none", SIGSEGV, SIG_DFL, 0, [] { raise(SIGSEGV); }, 0 },
+        { "none for a fault of arithmetic", SIGFPE, SIG_DFL, 0, [] { raise(SIGFPE); }, 0 },
+        { "none for a breakpoint", SIGTRAP, SIG_DFL, 0, raiseTrap, 0 },
+        { "ignoring, which the system does not grant for a real fault", SIGSEGV, SIG_IGN, 0, Faults::WriteNull, 0 },
+        { "once without effect, then deadly", SIGSEGV, [](int) {}, static_cast<int>(SA_RESETHAND), Faults::WriteNull,
+          0 },
+        { "the host's", SIGSEGV, ExitAsHandled, 0, Faults::WriteNull, c_hostHandled },
+        { "a guard of another thread", SIGSEGV, ExitAsHandled, 0,
+          [] { Execute([] { std::thread(Faults::WriteNull).join(); }); }, c_hostHandled },
+        { "sent to the program, no fault of the action", SIGSEGV, ExitAsHandled, 0,
+          [] { Execute([] { kill(getpid(), SIGSEGV); }); }, c_hostHandled },
+        { "ignoring a breakpoint", SIGTRAP, SIG_IGN, 0, [] { raise(SIGTRAP), _exit(c_hostHandled); }, c_hostHandled },
+    };
+    for (Row const& row : rows)
+    {
+        auto const die = [&row]
         {
-            Handle(signal, SIG_DFL);
+            Handle(row.signal, row.handler, row.flags);
             UseGuard();
-            raise(signal);
+            row.action();
         };
-        EXPECT_EXIT(die(), testing::KilledBySignal(signal), "");
+        if (row.code == 0)
+            EXPECT_EXIT(die(), testing::KilledBySignal(row.signal), "") << row.why;
+        else
+            EXPECT_EXIT(die(), testing::ExitedWithCode(row.code), "") << row.why;
     }
-    auto const fault = []
-    {
-        Handle(SIGSEGV, SIG_IGN); // which the system does not grant for a real fault
-        UseGuard();
-        Faults::WriteNull();
-    };
-    EXPECT_EXIT(fault(), testing::KilledBySignal(SIGSEGV), "");
-}
-
-TEST_F(ExceptionHandlerDeathTest, HandlerFromBeforeGetsWhatNoGuardTakes)
-{
-    auto const outside = []
-    {
-        Handle(SIGSEGV, ExitAsHandled);
-        UseGuard();
-        Faults::WriteNull();
-    };
-    EXPECT_EXIT(outside(), testing::ExitedWithCode(c_hostHandled), "");
-
-    auto const otherThread = []
-    {
-        Handle(SIGSEGV, ExitAsHandled);
-        UseGuard();
-        Execute([] { std::thread(Faults::WriteNull).join(); });
-    };
-    EXPECT_EXIT(otherThread(), testing::ExitedWithCode(c_hostHandled), "") << "a guard of another thread";
-
-    auto const sentInside = []
-    {
-        Handle(SIGSEGV, ExitAsHandled);
-        Execute([] { kill(getpid(), SIGSEGV); });
-    };
-    EXPECT_EXIT(sentInside(), testing::ExitedWithCode(c_hostHandled), "")
-        << "sent to the program, no fault of the action";
-
-    auto const once = []
-    {
-        Handle(
-            SIGSEGV, [](int) {}, static_cast<int>(SA_RESETHAND));
-        UseGuard();
-        Faults::WriteNull(); // handled once without effect, then deadly
-    };
-    EXPECT_EXIT(once(), testing::KilledBySignal(SIGSEGV), "");
-
-    auto const ignored = []
-    {
-        Handle(SIGTRAP, SIG_IGN);
-        UseGuard();
-        raise(SIGTRAP);
-        _exit(0);
-    };
-    EXPECT_EXIT(ignored(), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(ExceptionHandlerDeathTest, LeavingThreadPassesThroughAndTakesItsGuardAlong)
@@ -158,28 +133,22 @@ TEST_F(ExceptionHandlerDeathTest, LeavingThreadPassesThroughAndTakesItsGuardAlon
     auto const leave = []
     {
         Handle(SIGTRAP, ExitAsHandled);
-        std::thread(
-            []
-            {
-                FaultsBehindTheGuard const last;
-                Execute([] { Execute([] { pthread_exit(nullptr); }); });
-            })
-            .join();
+        auto const exitInside = []
+        {
+            FaultsBehindTheGuard const last;
+            Execute([] { Execute([] { pthread_exit(nullptr); }); });
+        };
+        std::thread(exitInside).join();
     };
     EXPECT_EXIT(leave(), testing::ExitedWithCode(c_hostHandled), "");
 
     std::atomic<bool> isPassed = false;
-    std::thread cancelled(
-        [&]
-        {
-            Execute(
-                []
-                {
-                    for (;;)
-                        sleep(1);
-                });
-            isPassed = true;
-        });
+    auto const sleepOn = []
+    {
+        for (;;)
+            sleep(1);
+    };
+    std::thread cancelled([&] { Execute(sleepOn), isPassed = true; });
     pthread_cancel(cancelled.native_handle());
     cancelled.join();
     EXPECT_FALSE(isPassed);

@@ -43,6 +43,24 @@ struct FaultingDestructor
     ~FaultingDestructor() { Faults::WriteNull(); }
 };
 
+void FaultInHandler()
+{
+    try
+    {
+        throw LostException();
+    }
+    catch (LostException const&)
+    {
+        Faults::WriteNull();
+    }
+}
+
+void FaultWhileUnwinding()
+{
+    FaultingDestructor const faulting;
+    throw LostException();
+}
+
 struct Row
 {
     char const* what;
@@ -60,24 +78,8 @@ Row const c_failures[] = {
     { "quotient out of range", Faults::DivideBeyondRange },
     { "illegal instruction", Faults::IllegalInstruction },
     { "breakpoint", Faults::Breakpoint },
-    { "fault in a handler",
-      []
-      {
-          try
-          {
-              throw LostException();
-          }
-          catch (LostException const&)
-          {
-              Faults::WriteNull();
-          }
-      } },
-    { "fault in a destructor during unwinding",
-      []
-      {
-          FaultingDestructor const faulting;
-          throw LostException();
-      } },
+    { "fault in a handler", FaultInHandler },
+    { "fault in a destructor during unwinding", FaultWhileUnwinding },
     { "fault in a function that must not throw", []() noexcept { Faults::DivideByZero(); } },
 };
 
@@ -93,14 +95,9 @@ void ExpectEveryFailureCaught()
             EXPECT_EQ(0, std::uncaught_exceptions());
             EXPECT_EQ(nullptr, std::current_exception());
         }
-        EXPECT_TRUE(Execute([&] { EXPECT_FALSE(Execute(row.action)); })) << "nested";
-        EXPECT_FALSE(Execute(
-            [&]
-            {
-                EXPECT_FALSE(Execute(row.action));
-                Faults::ReadNull();
-            }))
-            << "outer fault after an inner failure";
+        auto const nested = [&row] { EXPECT_FALSE(Execute(row.action)); };
+        EXPECT_TRUE(Execute(nested));
+        EXPECT_FALSE(Execute([&] { nested(), Faults::ReadNull(); })) << "outer fault after an inner failure";
     }
 }
 
@@ -112,18 +109,7 @@ TEST(ExceptionHandler, ActionThatReturns)
     EXPECT_TRUE(Execute([&] { ++calls; }));
     EXPECT_EQ(1, calls);
     EXPECT_TRUE(Execute(std::function<void()>())) << "empty";
-    EXPECT_TRUE(Execute(
-        []
-        {
-            try
-            {
-                throw 5;
-            }
-            catch (int)
-            {
-            }
-        }))
-        << "handled inside";
+    EXPECT_TRUE(Execute([] { EXPECT_THROW(throw 5, int); })) << "handled inside";
 }
 
 TEST(ExceptionHandler, EveryFailureOnEveryThread)
@@ -137,12 +123,12 @@ TEST(ExceptionHandler, EveryFailureOnEveryThread)
 TEST(ExceptionHandler, ExceptionRunsDestructorsOfTheAction)
 {
     auto const held = std::make_shared<int>(1);
-    EXPECT_FALSE(Execute(
-        [copy = held]
-        {
-            auto const local = copy;
-            throw std::runtime_error("failed");
-        }));
+    auto const fail = [&held]
+    {
+        auto const local = held;
+        throw std::runtime_error("failed");
+    };
+    EXPECT_FALSE(Execute(fail));
     EXPECT_EQ(1, held.use_count());
 }
 
@@ -155,13 +141,7 @@ TEST(ExceptionHandler, FaultLeavesWhatTheActionReachedAndTheHandlerAround)
     }
     catch (std::runtime_error const&)
     {
-        EXPECT_FALSE(Execute(
-            [&]
-            {
-                ++steps;
-                Faults::WriteNull();
-                ++steps;
-            }));
+        EXPECT_FALSE(Execute([&] { ++steps, Faults::WriteNull(), ++steps; }));
         EXPECT_THROW(throw, std::runtime_error) << "the caller's own exception is still the current one";
     }
     EXPECT_EQ(1, steps);

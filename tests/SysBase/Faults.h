@@ -5,8 +5,10 @@
 // Code that faults for real. The sanitizers would report most of it first.
 #if defined(__GNUC__)
 #    define FAULTS_ON_PURPOSE __attribute__((noinline, no_sanitize("undefined", "address")))
+#    define FAULTS_INSTRUCTION(name, intrinsic) asm volatile(name)
 #else
 #    define FAULTS_ON_PURPOSE __declspec(noinline)
+#    define FAULTS_INSTRUCTION(name, intrinsic) intrinsic()
 #endif
 
 namespace Faults
@@ -47,20 +49,12 @@ FAULTS_ON_PURPOSE inline void DivideBeyondRange()
 
 FAULTS_ON_PURPOSE inline void IllegalInstruction()
 {
-#if defined(__GNUC__)
-    asm volatile("ud2");
-#else
-    __ud2();
-#endif
+    FAULTS_INSTRUCTION("ud2", __ud2);
 }
 
 FAULTS_ON_PURPOSE inline void Breakpoint()
 {
-#if defined(__GNUC__)
-    asm volatile("int3");
-#else
-    __debugbreak();
-#endif
+    FAULTS_INSTRUCTION("int3", __debugbreak);
 }
 
 } // namespace Faults
