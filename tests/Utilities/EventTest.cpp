@@ -30,8 +30,7 @@ TEST(Event, HandlersMayChangeTheListWhileItIsRaised)
 {
     Event<int> const event;
     std::string trace;
-    auto const note = [&trace](char const* name)
-    { return [&trace, name](int i) { trace += name + std::to_string(i); }; };
+    auto const note = [&](char const* name) { return [&trace, name](int i) { trace += name + std::to_string(i); }; };
     Event<int>::Token self{};
     self = event.Add(
         [&, captured = std::string(100, 'x')](int)

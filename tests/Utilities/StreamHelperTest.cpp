@@ -36,19 +36,10 @@ std::wstring ReadWide(std::istream& stream)
 }
 
 /// Gives `good` and then fails as a broken disk would.
-class BreakingBuffer : public std::streambuf
+struct BreakingBuffer : std::stringbuf
 {
-public:
-    explicit BreakingBuffer(std::string good) : m_good(std::move(good))
-    {
-        setg(m_good.data(), m_good.data(), m_good.data() + m_good.size());
-    }
-
-protected:
+    using std::stringbuf::stringbuf;
     int_type underflow() override { throw std::runtime_error("broken"); }
-
-private:
-    std::string m_good;
 };
 
 } // namespace
