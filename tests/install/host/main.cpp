@@ -37,12 +37,7 @@ std::string Read(std::string const& document)
     std::string title;
     XMLStreamer streamer;
     XMLContentElement& element = streamer.CreateRootStructureElement("settings").CreateContentElement("title");
-    element.SetOnDo(1,
-                    [&title](XMLContentElement const&, std::string const& content)
-                    {
-                        title = content;
-                        return true;
-                    });
+    element.SetOnDo(1, [&title](auto&, auto& content) { return title = content, true; });
     VersionedFunctionCollection<UnknownElementHandler> own;
     own.SetFunction(0, [](std::string const&) { return false; });
     streamer.SetVersion(own.CallFunction(1, "x") ? 0 : 1);
