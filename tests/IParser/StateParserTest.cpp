@@ -97,7 +97,7 @@ TEST(StateParser, SwitchesAndEnds)
           { { .tokens = { { "!!", true, TokenRule::Invalid } }, .text = c_go } },
           "a\r\n\t\r!!",
           "text 'a\\15\\12\\11\\15' @0 in 7\n-> 2 in 7 at 2:3\n" },
-        { "nor with a refusal beside it",
+        { "a stop is no failure, also with a refusal beside it",
           { { .tokens = { Call("<", { Reaction::StopAndRefuse }) }, .end = c_go } },
           "<<",
           "token '<' @0 in 7\n-> 0 in 7 at 1:1\n" },

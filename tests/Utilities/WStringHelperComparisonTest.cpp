@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <map>
 #include <random>
+#include <utility>
+#include <vector>
 
 using Vek::Framework::Utilities::WStringHelper;
 
@@ -41,60 +43,36 @@ int CompareNaively(std::wstring const& a, std::wstring const& b)
     return 0;
 }
 
-/// A text of random units; a copy changed in few places meets the long equal runs.
-class RandomTexts
-{
-public:
-    std::wstring Make()
-    {
-        std::wstring text(m_random() % 40, L'\0');
-        std::generate(text.begin(), text.end(), [this] { return Pick(); });
-        return text;
-    }
-
-    std::wstring Vary(std::wstring text)
-    {
-        for (wchar_t& unit : text)
-        {
-            if (m_random() % 4 == 0)
-                unit = PickPartner(static_cast<unsigned>(unit));
-        }
-        if (!text.empty() && m_random() % 2 == 0)
-            text[m_random() % text.size()] = Pick();
-        return text;
-    }
-
-private:
-    wchar_t Pick()
-    {
-        // A 0 ends the comparison: rarely, so that the rest is compared too.
-        std::size_t const index = m_random() % 50 == 0 ? 0 : 1 + m_random() % (c_folds.size() - 1);
-        return static_cast<wchar_t>(std::next(c_folds.begin(), static_cast<std::ptrdiff_t>(index))->first);
-    }
-
-    wchar_t PickPartner(unsigned unit)
-    {
-        unsigned const fold = c_folds.at(unit);
-        for (auto const& [other, otherFold] : c_folds)
-        {
-            if (other != unit && otherFold == fold)
-                return static_cast<wchar_t>(other);
-        }
-        return static_cast<wchar_t>(unit);
-    }
-
-    std::mt19937 m_random{ 20240131 };
-};
-
 } // namespace
 
 TEST(WStringHelperComparison, AgreesWithThePlainRuleOnRandomTexts)
 {
-    RandomTexts texts;
+    std::vector<std::pair<unsigned, unsigned>> const units(c_folds.begin(), c_folds.end());
+    std::mt19937 random(20240131);
+    // A 0 ends the comparison: rarely, so that the rest is compared too.
+    auto const pick = [&]
+    { return static_cast<wchar_t>(units[random() % 50 == 0 ? 0 : 1 + random() % (units.size() - 1)].first); };
+    auto const makeText = [&]
+    {
+        std::wstring text(random() % 40, L'\0');
+        std::generate(text.begin(), text.end(), pick);
+        return text;
+    };
+    // A copy changed in few places meets the long equal runs.
+    auto const vary = [&](std::wstring text)
+    {
+        for (wchar_t& unit : text)
+            for (unsigned const fold = c_folds.at(static_cast<unsigned>(unit)); auto const& row : units)
+                if (row.second == fold && random() % 4 == 0)
+                    unit = static_cast<wchar_t>(row.first);
+        if (!text.empty() && random() % 2 == 0)
+            text[random() % text.size()] = pick();
+        return text;
+    };
     for (int round = 0; round < 20000; ++round)
     {
-        std::wstring const a = texts.Make();
-        std::wstring const b = round % 4 == 0 ? texts.Make() : texts.Vary(a);
+        std::wstring const a = makeText();
+        std::wstring const b = round % 4 == 0 ? makeText() : vary(a);
         int const order = CompareNaively(a, b);
         ASSERT_EQ(order, Sign(WStringHelper::CompareIgnoreCase(a, b))) << ::testing::PrintToString(a + L'|' + b);
         ASSERT_EQ(-order, Sign(WStringHelper::CompareIgnoreCase(b, a)));
@@ -121,12 +99,8 @@ TEST(WStringHelperComparison, ElementsAboveTheUnitsEqualOnlyThemselvesAndSortLas
 TEST(WStringHelperComparison, ContainsEndsAtZeroAndIgnoresTheCaseOfLetters)
 {
     using namespace std::string_literals;
-    struct Row
-    {
-        std::wstring text, part;
-        bool expected;
-        char const* why;
-    };
+    // clang-format off
+    struct Row { std::wstring text, part; bool expected; char const* why; };
     Row const rows[] = {
         { L"", L"", true, "an empty part is everywhere" },
         { L"", L"a", false, "nothing is in the empty text" },
@@ -141,6 +115,7 @@ TEST(WStringHelperComparison, ContainsEndsAtZeroAndIgnoresTheCaseOfLetters)
         { MakeText({ 0x130 }), MakeText({ 'i' }), false, "dotted I" },
         { MakeText({ 'e' }), MakeText({ 0xE9 }), false, "an accent is a difference" },
     };
+    // clang-format on
     for (Row const& row : rows)
     {
         SCOPED_TRACE(row.why);
