@@ -101,9 +101,10 @@ TEST(StateParserStream, ATextMayBeLongerThanManyBlocks)
         EXPECT_EQ(row.column, places.parser.GetParserResult().column);
     }
     Places places;
-    std::istringstream stream(text);
+    std::istringstream stream(text + "<");
     EXPECT_TRUE(places.parser.ProcessSource(stream, true));
-    EXPECT_TRUE(places.trace.starts_with(std::to_string(text.size()) + " chars @0;")) << places.trace;
+    std::string const size = std::to_string(text.size());
+    EXPECT_EQ(size + " chars @0;< @" + size + ";end @" + std::to_string(text.size() + 1) + ";", places.trace);
 }
 
 TEST(StateParserStream, ByCharacterReadsNoFurtherThanRecognitionNeeds)

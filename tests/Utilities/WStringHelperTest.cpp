@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <utility>
 
 using namespace Vek::Framework::Utilities;
 
