@@ -3,7 +3,7 @@
 set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/packages.sh
-require_packages g++ cmake ninja-build gnucash-common
+require_packages g++ cmake ninja-build gdb-source gnucash-common
 
 mkdir -p build/linux-release
 log=build/linux-release/build.log

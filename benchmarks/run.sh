@@ -4,7 +4,7 @@
 set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/packages.sh
-require_packages g++ cmake ninja-build pkg-config python3 libbenchmark-dev libexpat1-dev libxml2-dev liborcus-dev \
+require_packages g++ cmake ninja-build gdb-source pkg-config python3 libbenchmark-dev libexpat1-dev libxml2-dev liborcus-dev \
     libpugixml-dev librapidxml-dev libtinyxml2-dev libicu-dev libutfcpp-dev qt6-base-dev libmodpbase64-dev
 
 build=build/linux-release

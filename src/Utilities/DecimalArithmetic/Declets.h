@@ -1,0 +1,38 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+/// Declets: three decimal digits in ten bits, as the densely packed decimal encoding of IEEE 754 has them (Cowlishaw).
+///
+/// Of the 1024 declets 24 are not canonical: they are read like the canonical ones of the same digits, never written.
+namespace Vek::Framework::Utilities::DecimalArithmetic
+{
+
+/// 0 to 999 for every declet.
+extern std::array<std::uint16_t, 1024> const c_valuesOfDeclets;
+/// The canonical declet of 0 to 999.
+extern std::array<std::uint16_t, 1000> const c_declets;
+
+/// Three digits of four bits each for every declet.
+extern std::array<std::uint16_t, 1024> const c_digitsOfDeclets;
+/// The canonical declet for three digits of four bits each; 0 for what is no digit.
+extern std::array<std::uint16_t, 4096> const c_decletsOfDigits;
+
+/// The digit characters of a declet; four units, so that they are stored at once.
+struct DigitText
+{
+    wchar_t units[4];
+};
+extern std::array<DigitText, 1024> const c_textsOfDeclets;
+
+constexpr unsigned c_decletMask = 0x3FF;
+
+/// The declet at `index` (0 is the lowest) of a word that holds six.
+constexpr std::size_t GetDeclet(std::uint64_t word, unsigned index) noexcept
+{
+    return static_cast<std::size_t>(word >> (10 * index)) & c_decletMask;
+}
+
+} // namespace Vek::Framework::Utilities::DecimalArithmetic

@@ -1,0 +1,73 @@
+#include <Utilities/DecimalArithmetic/Arithmetic.h>
+
+namespace Vek::Framework::Utilities::DecimalArithmetic
+{
+
+namespace
+{
+
+bool Increments(Rounding rounding, Coefficient const& dropped, int count) noexcept
+{
+    switch (rounding)
+    {
+    case Rounding::Up:
+        return !dropped.IsZero();
+    case Rounding::HalfUp:
+        return IsHalfOrMore(dropped, count);
+    default:
+        return false;
+    }
+}
+
+/// The coefficient at another exponent; false if that takes more than 34 digits.
+bool MoveTo(Finite& value, int exponent, Rounding rounding) noexcept
+{
+    int const left = value.exponent - exponent;
+    value.exponent = exponent;
+    if (left > 0)
+    {
+        if (!value.coefficient.IsZero() && CountDigits(value.coefficient) + left > c_precision)
+            return false;
+        value.coefficient = ShiftLeft(value.coefficient, left);
+        return true;
+    }
+    Shifted const shifted = ShiftRight(value.coefficient, -left);
+    value.coefficient = Increments(rounding, shifted.dropped, -left) ? Add(shifted.value, { 0, 1 }) : shifted.value;
+    return true;
+}
+
+} // namespace
+
+Encoding Rescale(Encoding a, int exponent, Rounding rounding) noexcept
+{
+    if (!IsFinite(a) || !IsPlainExponent(exponent))
+        return Reference::Rescale(a, exponent, rounding);
+    Finite value = Unpack(a);
+    return MoveTo(value, exponent, rounding) ? Pack(value) : Reference::Rescale(a, exponent, rounding);
+}
+
+Encoding Reduce(Encoding a) noexcept
+{
+    if (!IsFinite(a))
+        return Reference::Reduce(a);
+    Finite value = Unpack(a);
+    if (value.coefficient.IsZero())
+        return Pack({ value.isNegative, 0, { 0, 0 } });
+    value.exponent += StripZeros(value.coefficient, c_greatestPlainExponent - value.exponent);
+    return Pack(value);
+}
+
+Whole ToWhole(Encoding a) noexcept
+{
+    return IsFinite(a) ? ToWhole(Unpack(a)) : Whole{};
+}
+
+Whole ToWhole(Finite value) noexcept
+{
+    if (!MoveTo(value, 0, Rounding::HalfUp))
+        return {};
+    Coefficient const limit = FromUInt64(~std::uint64_t{ 0 });
+    return { value.isNegative, value.coefficient > limit, ToUInt64(value.coefficient) };
+}
+
+} // namespace Vek::Framework::Utilities::DecimalArithmetic

@@ -1,0 +1,175 @@
+// From double and back against the prescribed steps, written down with decNumber.
+
+#include <Utilities/Decimal.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+#include "RandomDecimal.h"
+
+namespace Tests
+{
+
+namespace
+{
+
+using Vek::Framework::Utilities::Decimal;
+
+decNumber PowerOfTwo(int exponent)
+{
+    decContext context = Plain::MakeContext();
+    decNumber two;
+    decNumber power;
+    decNumber result;
+    decNumberFromInt32(&two, 2);
+    decNumberFromInt32(&power, exponent);
+    decNumberPower(&result, &two, &power, &context);
+    return result;
+}
+
+decNumber Multiply(decNumber const& a, decNumber const& b)
+{
+    decContext context = Plain::MakeContext();
+    decNumber result;
+    decNumberMultiply(&result, &a, &b, &context);
+    return result;
+}
+
+/// Sets the lowest digits to zero one by one, each carrying into the next from 5 on; answers the last carry.
+int DropDigits(decNumber& number, int drop)
+{
+    std::vector<std::uint8_t> digits(static_cast<std::size_t>(number.digits));
+    decNumberGetBCD(&number, digits.data());
+    int carry = 0;
+    for (int i = 0; i < drop; ++i)
+    {
+        std::uint8_t& digit = digits[digits.size() - 1 - static_cast<std::size_t>(i)];
+        carry = digit + carry >= 5 ? 1 : 0;
+        digit = 0;
+    }
+    decNumberSetBCD(&number, digits.data(), static_cast<std::uint32_t>(digits.size()));
+    return carry;
+}
+
+Decimal FromDoublePlainly(double value)
+{
+    decContext context = Plain::MakeContext();
+    int exponent = 0;
+    auto const bits = static_cast<long long>(std::frexp(value, &exponent) * 4503599627370496.0);
+    decNumber mantissa;
+    decNumberFromString(&mantissa, std::to_string(bits).c_str(), &context);
+    decNumber number = Multiply(mantissa, PowerOfTwo(exponent - 52));
+
+    int const kept = std::max(0, 14 - ((exponent * 19728) >> 16));
+    int const drop = -(number.exponent + kept);
+    if (drop >= 1 && DropDigits(number, drop) != 0)
+    {
+        decNumber unit;
+        decNumberFromInt32(&unit, value < 0 ? -1 : 1);
+        unit.exponent = -kept;
+        decNumber const rest = number;
+        decNumberAdd(&number, &rest, &unit, &context);
+    }
+    decNumber reduced;
+    decNumberReduce(&reduced, &number, &context);
+    return Plain::Encode(reduced);
+}
+
+double ToDoublePlainly(Decimal const& value)
+{
+    decNumber const number = Plain::Decode(value);
+    int const shift = static_cast<int>((16.65355977452702 - (number.digits + number.exponent)) * 3.321928094887362);
+    decNumber const whole = Plain::Rescale(Multiply(number, PowerOfTwo(shift)), 0);
+    auto const magnitude = static_cast<long long>(Plain::GetMagnitude(whole));
+    return std::ldexp(static_cast<double>(decNumberIsNegative(&whole) ? -magnitude : magnitude), -shift);
+}
+
+/// Any double, an amount, or a power of two and its neighbours.
+double NextDouble(RandomDecimal& random, unsigned kind)
+{
+    auto const bits = std::uint64_t{ random.Below(0xFFFFFFFF) } << 32U | random.Below(0xFFFFFFFF);
+    auto const any = std::bit_cast<double>(bits);
+    switch (kind % 4)
+    {
+    case 0:
+        return std::isfinite(any) ? any : 1.0 / 3.0;
+    case 1:
+        return static_cast<double>(static_cast<std::int64_t>(bits) >> 30) / 100.0;
+    case 2:
+        return static_cast<double>(random.Below(100'000'000)) * 1e-4;
+    default:
+        return std::nextafter(std::ldexp(1.0, static_cast<int>(random.Below(2000)) - 1000),
+                              random.Below(2) == 0 ? 0.0 : 2.0);
+    }
+}
+
+bool IsSame(double a, double b)
+{
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+} // namespace
+
+TEST(DecimalDouble, FromDoubleFollowsItsSteps)
+{
+    RandomDecimal random(20);
+    for (unsigned i = 0; i < GetDifferentialCases() / 4; ++i)
+    {
+        double const value = NextDouble(random, i);
+        Decimal const expected = value == 0 ? Decimal() : FromDoublePlainly(value);
+        ASSERT_TRUE(Plain::HasSameBits(Decimal(value), expected))
+            << std::hexfloat << value << " gives " << Plain::Print(Decimal(value)) << ", not "
+            << Plain::Print(expected);
+    }
+}
+
+TEST(DecimalDouble, ToDoubleFollowsItsSteps)
+{
+    RandomDecimal random(21);
+    for (unsigned i = 0; i < GetDifferentialCases() / 4; ++i)
+    {
+        Decimal const value = i % 2 == 0 ? random.Next() : Decimal(NextDouble(random, i / 2));
+        decNumber const number = Plain::Decode(value);
+        if (decNumberIsSpecial(&number))
+            continue;
+        ASSERT_TRUE(IsSame(value.ToDouble(), ToDoublePlainly(value)))
+            << Plain::Print(value) << " gives " << std::hexfloat << value.ToDouble() << ", not "
+            << ToDoublePlainly(value);
+    }
+}
+
+TEST(DecimalDouble, SpecialValues)
+{
+    double const infinity = std::numeric_limits<double>::infinity();
+    struct Row
+    {
+        double value;
+        char const* text;
+        double back;
+        char const* why;
+    };
+    Row const rows[] = {
+        { 0.1, "0.1", 0.1, "what was meant" },
+        { 1.0, "1", 1.0, "no zeros at the end" },
+        { 100.0, "1E+2", 100.0, "nor before the point" },
+        { 1.0 / 1024, "0.0009765625", 1.0 / 1024, "as many digits as it has" },
+        { 0x1.0000000000001p52, "4503599627370496", 0x1p52, "2^52 + 1 loses its last bit" },
+        { -0.0, "0", 0.0, "no signed zero" },
+        { infinity, "Infinity", infinity, "stays" },
+        { -infinity, "-Infinity", infinity, "comes back positive" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        EXPECT_EQ(Plain::Print(Decimal(row.value)), row.text);
+        EXPECT_TRUE(IsSame(Decimal(row.value).ToDouble(), row.back));
+    }
+    EXPECT_EQ(Plain::Print(Decimal(-std::numeric_limits<double>::quiet_NaN())), "NaN");
+    EXPECT_EQ(std::bit_cast<std::uint64_t>(Plain::Scan("-NaN5").ToDouble()), 0x7FF8000000000000U);
+    EXPECT_EQ(Plain::Print(Decimal(1.0 / 3.0)), "0.333333333333333");
+}
+
+} // namespace Tests

@@ -1,0 +1,119 @@
+#pragma once
+
+#include <Utilities/Decimal.h>
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <string>
+
+extern "C"
+{
+#include <decimal128.h>
+#include <decNumber.h>
+}
+
+/// The operations of Decimal written down with decNumber alone: decode, operate, encode.
+namespace Tests::Plain
+{
+
+using Vek::Framework::Utilities::Decimal;
+
+inline decContext MakeContext(rounding mode = DEC_ROUND_HALF_UP)
+{
+    decContext context;
+    decContextDefault(&context, DEC_INIT_DECIMAL128);
+    context.round = mode;
+    return context;
+}
+
+inline decNumber Decode(Decimal const& value)
+{
+    auto const bytes = std::bit_cast<decimal128>(value);
+    decNumber number;
+    decimal128ToNumber(&bytes, &number);
+    return number;
+}
+
+inline Decimal Encode(decNumber const& number, rounding mode = DEC_ROUND_HALF_UP)
+{
+    decContext context = MakeContext(mode);
+    decimal128 bytes;
+    decimal128FromNumber(&bytes, &number, &context);
+    return std::bit_cast<Decimal>(bytes);
+}
+
+inline std::string Print(Decimal const& value)
+{
+    auto const bytes = std::bit_cast<decimal128>(value);
+    char text[DECIMAL128_String];
+    return decimal128ToString(&bytes, text);
+}
+
+inline Decimal Scan(std::string const& text, rounding mode = DEC_ROUND_HALF_UP)
+{
+    decContext context = MakeContext(mode);
+    decNumber number;
+    decNumberFromString(&number, text.c_str(), &context);
+    return Encode(number, mode);
+}
+
+inline bool HasSameBits(Decimal const& a, Decimal const& b)
+{
+    return std::memcmp(&a, &b, sizeof(Decimal)) == 0;
+}
+
+using Unary = decNumber* (*)(decNumber*, decNumber const*, decContext*);
+using Binary = decNumber* (*)(decNumber*, decNumber const*, decNumber const*, decContext*);
+
+inline Decimal Apply(Unary operation, Decimal const& a, rounding mode = DEC_ROUND_HALF_UP)
+{
+    decContext context = MakeContext(mode);
+    decNumber const operand = Decode(a);
+    decNumber result;
+    operation(&result, &operand, &context);
+    return Encode(result, mode);
+}
+
+inline Decimal Apply(Binary operation, Decimal const& a, Decimal const& b, rounding mode = DEC_ROUND_HALF_UP)
+{
+    decContext context = MakeContext(mode);
+    decNumber const left = Decode(a);
+    decNumber const right = Decode(b);
+    decNumber result;
+    operation(&result, &left, &right, &context);
+    return Encode(result, mode);
+}
+
+inline int Compare(Decimal const& a, Decimal const& b)
+{
+    decContext context = MakeContext();
+    decNumber const left = Decode(a);
+    decNumber const right = Decode(b);
+    decNumber result;
+    decNumberCompare(&result, &left, &right, &context);
+    return decNumberIsNaN(&result) || decNumberIsZero(&result) ? 0 : decNumberIsNegative(&result) ? -1 : 1;
+}
+
+inline decNumber Rescale(decNumber const& number, int exponent, rounding mode = DEC_ROUND_HALF_UP)
+{
+    decContext context = MakeContext(mode);
+    decNumber target;
+    decNumberFromInt32(&target, exponent);
+    decNumber result;
+    decNumberRescale(&result, &number, &target, &context);
+    return result;
+}
+
+/// The digits three by three, without a range check.
+inline std::uint64_t GetMagnitude(decNumber const& number)
+{
+    std::uint64_t sum = 0;
+    std::uint64_t power = 1;
+    if (!decNumberIsSpecial(&number))
+        for (int i = 0; i * DECDPUN < number.digits; ++i, power *= 1000)
+            sum += number.lsu[i] * power;
+    return sum;
+}
+
+} // namespace Tests::Plain
