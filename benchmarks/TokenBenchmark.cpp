@@ -1,0 +1,155 @@
+// A text of a small language cut into symbols: kind and a copy of the text. Ours learn their tokens at run time and
+// count lines and columns; the scanners of re2c and flex were generated from grammars and count nothing.
+
+#include "Contest.h"
+#include "TokenScanners.h"
+
+#include <IParser/SimpleParser.h>
+#include <IParser/StateParser.h>
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+namespace Benchmarks
+{
+
+namespace
+{
+
+using namespace Vek::Framework::IParser::Native;
+
+SymbolTotals AsTheyAre(SymbolTotals const& totals)
+{
+    return totals;
+}
+
+/// Some 200 KB.
+std::string MakeSource()
+{
+    std::string source;
+    for (int i = 0; source.size() < 200'000; ++i)
+    {
+        std::string const number = std::to_string(i);
+        source += "// Rabatt der Stufe " + number + ", ohne Skonto\n";
+        source += "betrag = menge * einzelpreis + 12.50 - abzug" + number + ";\n";
+        source += "if (betrag >= " + number + " && waehrung == \"EUR\" || land != \"Schweiz und Liechtenstein\")\n";
+        source += "{\n    rabatt[stufe] = (betrag - 100) * 0.03 / faktor; kunde = Suche(\"Nummer\", kunden);\n}\n";
+    }
+    return source;
+}
+
+SymbolTotals ScanWithSimpleParser(SimpleParser& parser, std::string const& source)
+{
+    parser.ProvideSource(source);
+    SymbolTotals totals;
+    Symbol symbol;
+    while (parser.GetNextSymbol(symbol))
+        totals.Add(static_cast<unsigned>(symbol.GetSymbolId()), symbol.GetText());
+    return totals;
+}
+
+SimpleParser MakeSimpleParser()
+{
+    SimpleParser parser(false);
+    for (std::size_t i = 0; i < std::size(c_operators); ++i)
+        parser.AddToken(static_cast<int>(i + 1), c_operators[i], "", true);
+    return parser;
+}
+
+/// The same by a state parser, whose handlers put the symbols together.
+class StateScanner
+{
+public:
+    StateScanner()
+    {
+        RegisterCode();
+        RegisterText();
+        State* const comment = m_parser.RegisterState(Comment, StateParser::KeepWhiteSpace);
+        comment->RegisterTransitionToken("\n", Code, State::CaseSensitive);
+    }
+
+    SymbolTotals Scan(std::string const& source)
+    {
+        m_totals = SymbolTotals();
+        if (!m_parser.ProcessSource(source))
+            m_totals.symbols = 0;
+        return m_totals;
+    }
+
+private:
+    enum StateId : unsigned
+    {
+        Code,
+        Quoted,
+        Comment
+    };
+
+    void RegisterCode()
+    {
+        State* const code = m_parser.RegisterState(Code, StateParser::SkipWhiteSpace);
+        code->RegisterTransitionToken("//", Comment, State::CaseSensitive);
+        code->RegisterTransitionToken("\"", Quoted, State::CaseSensitive);
+        for (std::size_t i = 0; i < std::size(c_operators); ++i)
+            code->RegisterTokenConsumer(
+                c_operators[i], [=, this](State::ResultParams&) { Add(static_cast<unsigned>(i + 1), c_operators[i]); },
+                State::CaseSensitive);
+        code->RegisterTextViewConsumer([this](std::string_view text, State::ResultParams&)
+                                       { Add(IsNumber(text) ? Number : Identifier, text); });
+    }
+
+    void RegisterText()
+    {
+        State* const quoted = m_parser.RegisterState(Quoted, StateParser::KeepWhiteSpace);
+        quoted->RegisterTextViewConsumer([this](std::string_view text, State::ResultParams&) { Add(Text, text); });
+        quoted->RegisterTransitionToken("\"", Code, State::CaseSensitive);
+    }
+
+    static bool IsNumber(std::string_view text)
+    {
+        auto const isDigit = [](char c) { return c >= '0' && c <= '9'; };
+        auto const point = std::find_if_not(text.begin(), text.end(), isDigit);
+        return point == text.end() ||
+               (point != text.begin() && *point == '.' && std::all_of(point + 1, text.end(), isDigit));
+    }
+
+    void Add(unsigned kind, std::string_view text)
+    {
+        m_symbol.kind = kind;
+        m_symbol.text.assign(text);
+        m_totals.Add(m_symbol.kind, m_symbol.text);
+    }
+
+    StateParser m_parser;
+    ScannedSymbol m_symbol;
+    SymbolTotals m_totals;
+};
+
+void RegisterPeers(std::string const& workload, std::string const& source, SymbolTotals const& expected)
+{
+    Register(
+        workload + "/re2c", source.size(), [=] { return ScanAllWithRe2c(source); }, AsTheyAre, expected);
+    Register(
+        workload + "/flex", source.size(), [=] { return ScanAllWithFlex(source); }, AsTheyAre, expected);
+}
+
+bool const c_isRegistered = []
+{
+    static SimpleParser s_parser = MakeSimpleParser();
+    static StateScanner s_scanner;
+    std::string const source = MakeSource();
+    SymbolTotals const expected = ScanWithSimpleParser(s_parser, source);
+    Register(
+        "Tokenise/ours", source.size(), [=] { return ScanWithSimpleParser(s_parser, source); }, AsTheyAre,
+        ScanAllWithRe2c(source));
+    RegisterPeers("Tokenise", source, expected);
+    Register(
+        "TokeniseByStates/ours", source.size(), [=] { return s_scanner.Scan(source); }, AsTheyAre, expected);
+    RegisterPeers("TokeniseByStates", source, expected);
+    return true;
+}();
+
+} // namespace
+
+} // namespace Benchmarks

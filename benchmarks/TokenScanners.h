@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+/// One small language and the scanners that re2c and flex make of it: identifiers, numbers, texts in double quotes
+/// without escapes, comments from "//" to the end of the line, and operators.
+namespace Benchmarks
+{
+
+enum SymbolKind : unsigned
+{
+    // Operators come first and count from 1; the others are numbered as our scanner numbers them.
+    End = 0,
+    Identifier = 0xFFFB,
+    Text = 0xFFFC,
+    Number = 0xFFFD
+};
+
+/// The operator at index i has the kind i + 1.
+constexpr char const* c_operators[] = { "+",  "-",  "*",  "/", "%", "=", "==", "!", "!=", "<", "<=", ">",
+                                        ">=", "&&", "||", "(", ")", "{", "}",  "[", "]",  ",", ";" };
+
+/// What a scanner hands out; the text's memory is used again.
+struct ScannedSymbol
+{
+    unsigned kind = End;
+    std::string text;
+};
+
+/// What a scanner handed out: enough to tell when two handed out different symbols.
+struct SymbolTotals
+{
+    std::size_t symbols = 0;
+    std::size_t bytes = 0;
+    std::size_t weight = 0; // of kind and last byte, by place
+
+    void Add(unsigned kind, std::string const& text)
+    {
+        ++symbols;
+        bytes += text.size();
+        weight += symbols * (kind + (text.empty() ? 0U : static_cast<unsigned char>(text.back())));
+    }
+
+    bool operator==(SymbolTotals const&) const = default;
+};
+
+SymbolTotals ScanAllWithRe2c(std::string const& source);
+SymbolTotals ScanAllWithFlex(std::string const& source);
+
+} // namespace Benchmarks
