@@ -17,7 +17,8 @@ enum SimpleParser::StartFlag : unsigned char
     TokenStart = 4,
     CommentStart = 8,
     TextStart = 16,
-    End = 32 // the zero byte behind the source, which ends every run
+    End = 32,      // the zero byte behind the source, which ends every run
+    SureToken = 64 // with TokenStart: a token begins here whatever follows
 };
 
 SimpleParser::SimpleParser(bool recordSymbols)
@@ -59,6 +60,7 @@ bool SimpleParser::AddToken(int id, std::string const& text, std::string const& 
     if (!m_tokens.AddToken(id, text, description, isScannable))
         return false;
     Mark(text.front(), TokenStart, true);
+    Mark(text.front(), SureToken, m_tokens.IsSureToken(text.front()));
     return true;
 }
 
@@ -100,7 +102,90 @@ void SimpleParser::Mark(char first, StartFlag flag, bool isSet)
     start = static_cast<unsigned char>(isSet ? start | flag : start & ~flag);
 }
 
+void SimpleParser::ForEachSymbol(std::function<void(Symbol const&)> const& function) const
+{
+    m_recordedSymbols.ForEach(function);
+}
+
+// Every blank is counted while it is looked at, and the character behind them with the last one.
+inline void SimpleParser::SkipBlanks()
+{
+    char const* at = GetPosition();
+    unsigned long long column = m_column;
+    for (; (m_starts[static_cast<unsigned char>(*at)] & Blank) != 0; ++at)
+        if (*at == ' ')
+            ++column;
+        else
+        {
+            m_line += *at == '\n';
+            column = 1;
+        }
+    m_column = column;
+    m_position = static_cast<std::size_t>(at - m_source.data());
+    if ((GetStart() & Tab) != 0)
+        CalcPosition();
+}
+
+inline void SimpleParser::TakeToken(Symbol& symbol, Internal::Token const& token)
+{
+    symbol.Begin(Symbol::Token, m_line, m_column);
+    Advance(token.GetText().size());
+    symbol.m_tokenId = token.GetId();
+    symbol.m_text = token.GetText();
+}
+
+inline bool SimpleParser::BuildPlainIdentifier(Symbol& symbol)
+{
+    char const* const begin = GetPosition();
+    char const* end = begin;
+    while (m_starts[static_cast<unsigned char>(*end)] == 0)
+        ++end;
+    unsigned char const next = m_starts[static_cast<unsigned char>(*end)];
+    if (next != Blank && next != TextStart && next != End && next != (TokenStart | SureToken))
+        return false;
+
+    symbol.Begin(Symbol::Identifier, m_line, m_column);
+    Advance(static_cast<std::size_t>(end - begin));
+    if (next == Blank)
+        SkipBlanks();
+    symbol.m_text.assign(begin, static_cast<std::size_t>(end - begin));
+    if (*begin <= '9' && IsNumeric(symbol.m_text)) // most begin with a letter
+        symbol.SetKind(Symbol::Number);
+    return true;
+}
+
+inline bool SimpleParser::BuildPlainToken(Symbol& symbol)
+{
+    Internal::Token const* const token = m_tokens.FindToken(GetPosition(), GetRemainingBytes());
+    if (token == nullptr || !token->IsScannable())
+        return false;
+    TakeToken(symbol, *token);
+    return true;
+}
+
+// A short way for most symbols: blanks and then a token, a text or an identifier whose end is beyond doubt. It comes to
+// the same as BuildNextSymbol. Where more is to be looked at, it answers false and has passed blanks at most.
+inline bool SimpleParser::BuildPlainSymbol(Symbol& symbol)
+{
+    if (GetStart() == Blank)
+        SkipBlanks();
+    unsigned char const start = GetStart();
+    if (start == 0)
+        return BuildPlainIdentifier(symbol);
+    if ((start | SureToken) == (TokenStart | SureToken))
+        return BuildPlainToken(symbol);
+    m_symbolInProgress = false;
+    return start == TextStart && ScanText(symbol);
+}
+
 bool SimpleParser::GetNextSymbol(Symbol& symbol)
+{
+    if (!m_passThrough && BuildPlainSymbol(symbol))
+        return !m_recordSymbols || Record(symbol);
+    return GetAnySymbol(symbol);
+}
+
+bool SimpleParser::GetAnySymbol(Symbol& symbol)
 {
     m_symbolInProgress = false;
     if (!(m_passThrough ? BuildPassThroughSymbol(symbol) : BuildNextSymbol(symbol)))
@@ -110,17 +195,14 @@ bool SimpleParser::GetNextSymbol(Symbol& symbol)
     }
     if (symbol.m_symbolType == Symbol::Identifier && IsNumeric(symbol.m_text))
         symbol.SetKind(Symbol::Number);
-    if (m_recordSymbols)
-    {
-        symbol.m_prevSymbol = m_recordedSymbols.GetLast();
-        m_recordedSymbols.Add(symbol);
-    }
-    return true;
+    return !m_recordSymbols || Record(symbol);
 }
 
-void SimpleParser::ForEachSymbol(std::function<void(Symbol const&)> const& function) const
+bool SimpleParser::Record(Symbol& symbol)
 {
-    m_recordedSymbols.ForEach(function);
+    symbol.m_prevSymbol = m_recordedSymbols.GetLast();
+    m_recordedSymbols.Add(symbol);
+    return true;
 }
 
 bool SimpleParser::BuildNextSymbol(Symbol& symbol)
@@ -217,10 +299,7 @@ bool SimpleParser::ScanToken(Symbol& symbol)
     if (m_symbolInProgress)
         return true;
 
-    symbol.Begin(Symbol::Token, m_line, m_column);
-    symbol.m_tokenId = token->GetId();
-    symbol.m_text = token->GetText();
-    Advance(token->GetText().size());
+    TakeToken(symbol, *token);
     return true;
 }
 
@@ -247,16 +326,13 @@ bool SimpleParser::ScanText(Symbol& symbol)
     return true;
 }
 
-// Every blank is counted while it is looked at, and the character behind them with the last one.
+// The first blank was counted already.
 bool SimpleParser::ScanSkipped()
 {
     if ((GetStart() & Blank) == 0)
         return false;
-    do
-    {
-        ++m_position;
-        CalcPosition();
-    } while ((GetStart() & Blank) != 0);
+    ++m_position;
+    SkipBlanks();
     return true;
 }
 

@@ -79,19 +79,27 @@ private:
     VEK_LOCAL std::size_t GetRemainingBytes() const { return m_source.size() - m_position; }
     VEK_LOCAL void Advance(std::size_t count);
 
+    VEK_LOCAL bool GetAnySymbol(Symbol& symbol);
+    VEK_LOCAL bool Record(Symbol& symbol);
+    VEK_LOCAL bool BuildPlainSymbol(Symbol& symbol);
+    VEK_LOCAL bool BuildPlainIdentifier(Symbol& symbol);
+    VEK_LOCAL bool BuildPlainToken(Symbol& symbol);
     VEK_LOCAL bool BuildNextSymbol(Symbol& symbol);
     VEK_LOCAL bool BuildPassThroughSymbol(Symbol& symbol);
     VEK_LOCAL void CalcPosition();
     VEK_LOCAL bool IsComment() const;
     VEK_LOCAL void SkipComment();
     VEK_LOCAL bool ScanToken(Symbol& symbol);
+    VEK_LOCAL void TakeToken(Symbol& symbol, Internal::Token const& token);
     VEK_LOCAL bool ScanText(Symbol& symbol);
     VEK_LOCAL bool ScanSkipped();
+    VEK_LOCAL void SkipBlanks();
     VEK_LOCAL void ScanIdentifier(Symbol& symbol);
     VEK_LOCAL bool IsNumeric(std::string const& text) const;
 
     std::string m_source;
     std::size_t m_position = 0;
+    unsigned long long m_line = 1; // not beside the column: read as a pair, both would wait for their last writes
     Internal::TokenRegistry m_tokens;
     std::array<unsigned char, 256> m_starts{}; // what can begin with a byte; 0: it belongs to an identifier
     char m_decimalPoint;
@@ -99,7 +107,6 @@ private:
     char m_textToken = '\0';
     unsigned int m_tabSize = 3;
     bool m_symbolInProgress = false;
-    unsigned long long m_line = 1;
     unsigned long long m_column = 1;
     bool m_passThrough = false;
     bool m_recordSymbols;

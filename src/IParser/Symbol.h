@@ -45,21 +45,21 @@ public:
 
     /// The characters of the symbol; of a text, without its delimiters.
     std::string const& GetText() const noexcept { return m_text; }
-    SymbolType GetSymbolType() const noexcept;
-    State GetState() const noexcept;
+    SymbolType GetSymbolType() const noexcept { return m_symbolType; }
+    State GetState() const noexcept { return m_state; }
     /// The id the token was registered with; -1 for all other kinds.
-    int GetTokenId() const noexcept;
+    int GetTokenId() const noexcept { return m_tokenId; }
     /// The token's id, for all other kinds the value of the kind: one number to switch over.
-    int GetSymbolId() const noexcept;
+    int GetSymbolId() const noexcept { return m_symbolType == Token ? m_tokenId : static_cast<int>(m_symbolType); }
     /// The name of the kind, in English; empty for a token.
     std::string const& GetDescription() const;
     /// From 1, as SimpleParser counts.
-    unsigned long long GetLine() const noexcept;
+    unsigned long long GetLine() const noexcept { return m_line; }
     /// From 1, as SimpleParser counts.
-    unsigned long long GetColumn() const noexcept;
+    unsigned long long GetColumn() const noexcept { return m_column; }
     /// The symbol that was recorded before this one, null if there is none or nothing is recorded. Belongs to the
     /// parser that recorded it and lives until that parser gets a new source or ends.
-    Symbol* GetPrevSymbol() const noexcept;
+    Symbol* GetPrevSymbol() const noexcept { return m_prevSymbol; }
 
 private:
     friend class SimpleParser;
@@ -90,8 +90,8 @@ private:
     std::string m_description;       // of a symbol that was not scanned
     bool m_hasOwnDescription = true; // otherwise it follows from the kind
     unsigned long long m_line = 0;
-    unsigned long long m_column = 0;
     Symbol* m_prevSymbol = nullptr;
+    unsigned long long m_column = 0;
 };
 
 } // namespace Vek::Framework::IParser::Native

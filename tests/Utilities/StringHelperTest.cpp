@@ -115,7 +115,8 @@ TEST(StringHelper, ReplaceAllGivesWhatSearchingFromTheBeginningGives)
 
 TEST(StringHelper, ReplaceAllEndsWhateverTheArguments)
 {
-    std::string chain = std::string(1000000, 'a') + 'b';
+    std::string chain(1000000, 'a');
+    chain += 'b';
     StringHelper::ReplaceAll(chain, "ab", "b");
     EXPECT_EQ("b", chain);
 

@@ -8,22 +8,6 @@
 namespace Vek::Framework::IParser::Native::Internal
 {
 
-namespace
-{
-
-// The first bytes are known to be equal. Tokens are short: a loop costs less than a call.
-bool BeginsWith(char const* position, std::size_t remaining, std::string const& text)
-{
-    if (text.size() > remaining)
-        return false;
-    std::size_t same = 1;
-    while (same < text.size() && position[same] == text[same])
-        ++same;
-    return same == text.size();
-}
-
-} // namespace
-
 TokenRegistry::TokenRegistry() = default;
 
 TokenRegistry::TokenRegistry(TokenRegistry const& other)
@@ -55,7 +39,8 @@ bool TokenRegistry::CheckToken(int id, std::string const& text) const
     if (text.empty() || m_tokens.contains(id))
         return false;
     Bucket const& bucket = BucketOf(text.front());
-    return std::none_of(bucket.begin(), bucket.end(), [&](Token const* token) { return token->GetText() == text; });
+    auto const hasText = [&](Candidate const& candidate) { return candidate.token->GetText() == text; };
+    return std::none_of(bucket.begin(), bucket.end(), hasText);
 }
 
 void TokenRegistry::Insert(Token token)
@@ -64,10 +49,11 @@ void TokenRegistry::Insert(Token token)
     auto const added = m_tokens.emplace(id, std::move(token)).first;
     std::string const& text = added->second.GetText();
     Bucket& bucket = BucketOf(text.front());
-    auto const isNotLonger = [&](Token const* other) { return other->GetText().size() <= text.size(); };
+    auto const isNotLonger = [&](Candidate const& other) { return other.size <= text.size(); };
     try
     {
-        bucket.insert(std::find_if(bucket.begin(), bucket.end(), isNotLonger), &added->second);
+        bucket.insert(std::find_if(bucket.begin(), bucket.end(), isNotLonger),
+                      Candidate{ &added->second, text.data(), text.size() });
     }
     catch (...)
     {
@@ -76,14 +62,11 @@ void TokenRegistry::Insert(Token token)
     }
 }
 
-Token* TokenRegistry::FindToken(char const* position, std::size_t remaining) const
+bool TokenRegistry::IsSureToken(char first) const
 {
-    if (remaining == 0)
-        return nullptr;
-    for (Token* const token : BucketOf(*position))
-        if (BeginsWith(position, remaining, token->GetText()))
-            return token;
-    return nullptr;
+    Bucket const& bucket = BucketOf(first);
+    auto const isScannable = [](Candidate const& candidate) { return candidate.token->IsScannable(); };
+    return !bucket.empty() && bucket.back().size == 1 && std::all_of(bucket.begin(), bucket.end(), isScannable);
 }
 
 Token* TokenRegistry::FindToken(int id) const

@@ -33,13 +33,38 @@ public:
     bool AddToken(int id, std::string const& text, std::string const& description, bool isScannable);
 
     /// The longest token that the `remaining` bytes at `position` begin with, scannable or not; null if there is none.
-    Token* FindToken(char const* position, std::size_t remaining) const;
+    Token* FindToken(char const* position, std::size_t remaining) const
+    {
+        if (remaining != 0)
+            for (Candidate const& candidate : m_buckets[static_cast<unsigned char>(*position)])
+                if (candidate.size <= remaining && candidate.IsAt(position))
+                    return candidate.token;
+        return nullptr;
+    }
+
+    /// True when `first` alone is a token and none that begins with it is kept from the scanner.
+    bool IsSureToken(char first) const;
 
     /// Null if no token has this id.
     Token* FindToken(int id) const;
 
 private:
-    using Bucket = std::vector<Token*>; // the longest text first
+    struct Candidate
+    {
+        // The first byte is known to be equal. Tokens are short: a loop costs less than a call.
+        bool IsAt(char const* position) const
+        {
+            std::size_t same = 1;
+            while (same < size && position[same] == text[same])
+                ++same;
+            return same >= size;
+        }
+
+        Token* token;
+        char const* text;
+        std::size_t size;
+    };
+    using Bucket = std::vector<Candidate>; // the longest text first
 
     VEK_LOCAL bool CheckToken(int id, std::string const& text) const;
     Bucket& BucketOf(char first) { return m_buckets[static_cast<unsigned char>(first)]; }
