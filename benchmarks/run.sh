@@ -4,13 +4,14 @@
 set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/packages.sh
-require_packages g++ cmake ninja-build gdb-source pkg-config python3 libbenchmark-dev libexpat1-dev libxml2-dev liborcus-dev \
-    libpugixml-dev librapidxml-dev libtinyxml2-dev libicu-dev libutfcpp-dev qt6-base-dev libmodpbase64-dev
+require_packages g++ cmake ninja-build gdb-source pkg-config python3 libbenchmark-dev libexpat1-dev libxml2-dev \
+    liborcus-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libicu-dev libutfcpp-dev qt6-base-dev \
+    libmodpbase64-dev libfccp-dev libcsv-dev libboost-dev re2c flex
 
 build=build/linux-release
 mkdir -p "$build"
-{ cmake --preset linux-release -DVEK_BUILD_BENCHMARKS=ON && cmake --build "$build"; } >"$build/build.log" 2>&1 ||
-    { cat "$build/build.log"; exit 1; }
+{ cmake --preset linux-release -DVEK_BUILD_TESTS=OFF -DVEK_BUILD_BENCHMARKS=ON &&
+    cmake --build "$build"; } >"$build/build.log" 2>&1 || { cat "$build/build.log"; exit 1; }
 
 "$build/bin/FrameworkUtilitiesBenchmarks" --benchmark_filter="${1:-.}" --benchmark_repetitions=9 \
     --benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true --benchmark_format=json \
