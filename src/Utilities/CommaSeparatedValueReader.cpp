@@ -3,6 +3,7 @@
 #include <Exceptions/InvalidStateException.h>
 #include <Utilities/SeparatorFinder.h>
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -13,6 +14,8 @@ CommaSeparatedValueReader::CommaSeparatedValueReader(std::wstring text, wchar_t 
     : m_text(std::move(text)),
       m_separator(separator)
 {
+    constexpr std::size_t c_usualSize = 64;
+    m_currentValue.reserve(std::min(m_text.size(), c_usualSize)); // instead of growing value by value
 }
 
 CommaSeparatedValueReader::CommaSeparatedValueReader(CommaSeparatedValueReader const& other) = default;
@@ -44,10 +47,10 @@ bool CommaSeparatedValueReader::MoveNext()
     if (at == end)
         return false;
 
-    SeparatorFinder const finder(m_separator);
+    SeparatorFinder const finder(m_text, m_separator);
     for (;;)
     {
-        wchar_t const* const stop = finder.Find(at, end);
+        wchar_t const* const stop = finder.Find(at);
         m_currentValue.append(at, static_cast<std::size_t>(stop - at));
         m_position = static_cast<unsigned long long>(stop - m_text.data());
         if (stop == end)

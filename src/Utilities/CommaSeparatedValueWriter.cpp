@@ -24,10 +24,10 @@ void CommaSeparatedValueWriter::AddValue(std::wstring const& value)
     if (&value == &m_result)
         return AddValue(std::wstring(value));
 
-    SeparatorFinder const finder(m_separator);
+    SeparatorFinder const finder(value, m_separator);
     wchar_t const* at = value.data();
     wchar_t const* const end = at + value.size();
-    for (wchar_t const* stop = finder.Find(at, end); stop != end; stop = finder.Find(at + 1, end))
+    for (wchar_t const* stop = finder.Find(at); stop != end; stop = finder.Find(at + 1))
     {
         m_result.append(at, static_cast<std::size_t>(stop - at));
         m_result += L'\\';

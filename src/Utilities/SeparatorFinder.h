@@ -4,6 +4,7 @@
 
 #include <bit>
 #include <cstddef>
+#include <string>
 
 namespace Vek::Framework::Utilities
 {
@@ -12,23 +13,37 @@ namespace Vek::Framework::Utilities
 class SeparatorFinder
 {
 public:
-    explicit SeparatorFinder(wchar_t separator) noexcept : m_separator(separator) {}
-
-    /// The first separator or backslash in [at, end), or `end`.
-    wchar_t const* Find(wchar_t const* at, wchar_t const* end) const noexcept
+    SeparatorFinder(std::wstring const& text, wchar_t separator) noexcept
+        : m_separator(separator),
+          m_end(text.data() + text.size()),
+          // Units from 0x7FFF up are not told apart in a block.
+          m_hasBlocks(text.size() >= c_blockSize && Platform::ToUnsigned(separator) < 0x7FFF)
     {
-        // Units from 0x7FFF up are not told apart in a block.
-        if (Platform::ToUnsigned(m_separator) < 0x7FFF)
-            for (; end - at >= c_blockSize; at += c_blockSize)
-                if (unsigned const hits = FindInBlock(at); hits != 0)
-                    return at + std::countr_zero(hits) / 2;
-        while (at != end && *at != m_separator && *at != L'\\')
-            ++at;
-        return at;
     }
+
+    /// The first separator or backslash in the text from `at` on, or the end of the text.
+    wchar_t const* Find(wchar_t const* at) const noexcept { return m_hasBlocks ? FindByBlocks(at) : FindByUnits(at); }
 
 private:
     static constexpr std::ptrdiff_t c_blockSize = 8;
+
+    wchar_t const* FindByBlocks(wchar_t const* at) const noexcept
+    {
+        for (; m_end - at >= c_blockSize; at += c_blockSize)
+            if (unsigned const hits = FindInBlock(at); hits != 0)
+                return at + std::countr_zero(hits) / 2;
+        // The last block begins before `at`.
+        std::ptrdiff_t const known = c_blockSize - (m_end - at);
+        unsigned const hits = FindInBlock(m_end - c_blockSize) >> (2 * known);
+        return hits != 0 ? at + std::countr_zero(hits) / 2 : m_end;
+    }
+
+    wchar_t const* FindByUnits(wchar_t const* at) const noexcept
+    {
+        while (at != m_end && *at != m_separator && *at != L'\\')
+            ++at;
+        return at;
+    }
 
     /// Two bits a unit.
     unsigned FindInBlock(wchar_t const* at) const noexcept
@@ -40,6 +55,8 @@ private:
     }
 
     wchar_t m_separator;
+    wchar_t const* m_end;
+    bool m_hasBlocks;
 };
 
 } // namespace Vek::Framework::Utilities
