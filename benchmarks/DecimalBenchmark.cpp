@@ -136,12 +136,19 @@ void RegisterMoney(std::string const& contestant)
     RegisterArithmetic<Contestant>("Money", contestant, first, second);
     RegisterTexts<Contestant>("Money", contestant, first);
     auto const a = Parse<Contestant>(first);
-    Register("MoneySum/" + contestant,
-             [a, sum = a[0]](std::size_t i) mutable
-             {
-                 sum = i == 0 ? a[0] : Contestant::Add(sum, a[i]);
-                 return sum;
-             });
+    benchmark::RegisterBenchmark(("MoneySum/" + contestant).c_str(),
+                                 [a](benchmark::State& state)
+                                 {
+                                     for (auto _ : state)
+                                     {
+                                         auto sum = a[0];
+                                         for (auto const& amount : a)
+                                             sum = Contestant::Add(sum, amount);
+                                         benchmark::DoNotOptimize(&sum);
+                                         benchmark::ClobberMemory();
+                                     }
+                                     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(c_count));
+                                 });
     if constexpr (requires { Contestant::RoundToCents(a[0]); })
     {
         std::vector<typename Contestant::Number> products;

@@ -1,7 +1,7 @@
 #include <Utilities/DecimalArithmetic/Arithmetic.h>
+#include <Utilities/DecimalArithmetic/PackedDigits.h>
 
 #include <algorithm>
-#include <utility>
 
 namespace Vek::Framework::Utilities::DecimalArithmetic
 {
@@ -9,91 +9,104 @@ namespace Vek::Framework::Utilities::DecimalArithmetic
 namespace
 {
 
-constexpr std::uint64_t c_sixes = 0x0666'6666'6666'6666;
-constexpr std::uint64_t c_carries = 0x1111'1111'1111'1110; // the lowest bit of every digit but the first
-
-// Amounts of up to fifteen digits are added as four-bit digits, without ever being binary: five look-ups in, six out.
-
-std::uint64_t UnpackDigits(std::uint64_t declets) noexcept
+/// A finite number by its digits.
+struct Term
 {
-    return std::uint64_t{ c_digitsOfDeclets[GetDeclet(declets, 0)] } |
-           std::uint64_t{ c_digitsOfDeclets[GetDeclet(declets, 1)] } << 12U |
-           std::uint64_t{ c_digitsOfDeclets[GetDeclet(declets, 2)] } << 24U |
-           std::uint64_t{ c_digitsOfDeclets[GetDeclet(declets, 3)] } << 36U |
-           std::uint64_t{ c_digitsOfDeclets[GetDeclet(declets, 4)] } << 48U;
+    bool isNegative;
+    int exponent;
+    PackedDigits digits;
+};
+
+Term MakeTerm(Encoding encoding) noexcept
+{
+    return { IsNegative(encoding), GetExponent(encoding), UnpackAllDigits(encoding) };
 }
 
-std::uint64_t PackDigits(std::uint64_t digits) noexcept
+/// The number with the greater exponent is moved left as far as there is room, the other one right for the rest.
+void Align(Term& upper, Term& lower) noexcept
 {
-    return std::uint64_t{ c_decletsOfDigits[digits & 0xFFFU] } |
-           std::uint64_t{ c_decletsOfDigits[digits >> 12U & 0xFFFU] } << 10U |
-           std::uint64_t{ c_decletsOfDigits[digits >> 24U & 0xFFFU] } << 20U |
-           std::uint64_t{ c_decletsOfDigits[digits >> 36U & 0xFFFU] } << 30U |
-           std::uint64_t{ c_decletsOfDigits[digits >> 48U & 0xFFFU] } << 40U |
-           (digits >> 60U) << c_packedBits; // a declet below ten is the digit itself
+    // What is cut off counts for nothing behind a digit that is rounded off; a difference may lose one digit in front.
+    bool const isDifference = upper.isNegative != lower.isNegative;
+    int const limit = isDifference ? c_precision + 2 : c_precision + 1;
+    int const difference = upper.exponent - lower.exponent;
+    if (upper.digits.IsZero())
+    {
+        upper.exponent = lower.exponent;
+        return;
+    }
+    int const left = std::min(difference, limit - CountDigits(upper.digits));
+    upper.digits = ShiftLeft(upper.digits, left);
+    upper.exponent -= left;
+    if (left == difference)
+        return;
+    bool isCut = false;
+    lower.digits = ShiftRight(lower.digits, difference - left, isCut);
+    if (isCut && isDifference)
+        lower.digits = Add(lower.digits, { 0, 0, 1 }); // what is left over then is cut off from the result
 }
 
-/// Sixes make every digit that reaches ten carry; those that did not are taken back.
-constexpr std::uint64_t AddDigits(std::uint64_t a, std::uint64_t b) noexcept
+/// Of terms with the same exponent.
+Term AddAligned(Term const& a, Term const& b) noexcept
 {
-    std::uint64_t const raised = a + c_sixes;
-    std::uint64_t const sum = raised + b;
-    std::uint64_t const withoutCarry = ~(sum ^ raised ^ b) & c_carries;
-    return sum - (withoutCarry >> 2U | withoutCarry >> 3U);
+    if (a.isNegative == b.isNegative)
+        return { a.isNegative, a.exponent, Add(a.digits, b.digits) };
+    if (a.digits == b.digits)
+        return { false, a.exponent, {} };
+    return a.digits < b.digits ? Term{ b.isNegative, a.exponent, Subtract(b.digits, a.digits) }
+                               : Term{ a.isNegative, a.exponent, Subtract(a.digits, b.digits) };
 }
 
-/// a must not be less than b. A digit that borrowed did so as sixteen, six too many.
-constexpr std::uint64_t SubtractDigits(std::uint64_t a, std::uint64_t b) noexcept
+/// Half-up, from up to 36 digits.
+void RoundToPrecision(Term& sum) noexcept
 {
-    std::uint64_t const difference = a - b;
-    std::uint64_t const borrowed = (difference ^ a ^ b) & c_carries;
-    return difference - (borrowed >> 2U | borrowed >> 3U);
+    int const surplus = CountDigits(sum.digits) - c_precision;
+    if (surplus <= 0)
+        return;
+    auto const dropped = static_cast<unsigned>(sum.digits.low >> (4 * (surplus - 1))) & 0xFU;
+    bool isCut = false;
+    sum.digits = ShiftRight(sum.digits, surplus, isCut);
+    sum.exponent += surplus;
+    if (dropped < 5)
+        return;
+    sum.digits = Add(sum.digits, { 0, 0, 1 });
+    if (CountDigits(sum.digits) > c_precision) // 10^34
+    {
+        sum.digits = ShiftRight(sum.digits, 1, isCut);
+        ++sum.exponent;
+    }
 }
 
-/// Brings the number with the greater exponent to the smaller one; false if it has no room for that.
-bool Align(std::uint64_t& digits, int difference) noexcept
+[[gnu::noinline]] Encoding AddLarge(Encoding a, Encoding b) noexcept
+{
+    if (!IsFinite(a) || !IsFinite(b))
+        return Reference::Add(a, b);
+    Term left = MakeTerm(a);
+    Term right = MakeTerm(b);
+    if (left.exponent > right.exponent)
+        Align(left, right);
+    else if (left.exponent < right.exponent)
+        Align(right, left);
+    Term sum = AddAligned(left, right);
+    sum.exponent = std::max(left.exponent, right.exponent);
+    RoundToPrecision(sum);
+    return IsPlainExponent(sum.exponent) ? PackAllDigits(sum.isNegative, sum.exponent, sum.digits)
+                                         : Reference::Add(a, b);
+}
+
+/// Brings the number with the greater exponent to the smaller one; false if a word has no room for that.
+bool AlignSmall(std::uint64_t& digits, int difference) noexcept
 {
     unsigned const bits = 4U * static_cast<unsigned>(difference);
-    if (difference > 14 || digits >> (60U - bits) != 0)
+    if (difference >= c_wordDigits || digits >> (c_wordBits - bits) != 0)
         return false;
     digits <<= bits;
     return true;
 }
 
-/// Exact, so that the least digit decides where the sum ends; (Infinity and NaN have no digits.)
-struct Aligned
+/// A word of digits and perhaps a sixteenth one, which as a declet is itself.
+std::uint64_t PackSum(std::uint64_t digits) noexcept
 {
-    Coefficient upper;
-    Coefficient lower;
-    int exponent;
-    bool isCut; // lower lost digits other than zero
-};
-
-/// `upper` with the greater exponent is moved left, up to `limit` digits, and `lower` right for the rest of the way.
-Aligned Align(Finite const& upper, Finite const& lower, int limit) noexcept
-{
-    int const difference = upper.exponent - lower.exponent;
-    int const room = upper.coefficient.IsZero() ? difference : limit - CountDigits(upper.coefficient);
-    int const left = std::min(difference, room);
-    Shifted const shifted = ShiftRight(lower.coefficient, difference - left);
-    return { ShiftLeft(upper.coefficient, left), shifted.value, upper.exponent - left, !shifted.dropped.IsZero() };
-}
-
-Encoding AddFinite(Finite a, Finite b) noexcept
-{
-    if (a.exponent < b.exponent)
-        std::swap(a, b);
-    bool const isSum = a.isNegative == b.isNegative;
-    // What is cut off counts for nothing behind a digit that is rounded off; a difference may lose one digit in front.
-    Aligned const aligned = Align(a, b, isSum ? c_precision + 1 : c_precision + 2);
-    if (isSum)
-        return Finish({ a.isNegative, aligned.exponent, Add(aligned.upper, aligned.lower) });
-    if (aligned.upper == aligned.lower && !aligned.isCut)
-        return Finish({ false, aligned.exponent, { 0, 0 } });
-    if (aligned.upper < aligned.lower)
-        return Finish({ b.isNegative, aligned.exponent, Subtract(aligned.lower, aligned.upper) });
-    Coefficient const difference = Subtract(aligned.upper, aligned.lower);
-    return Finish({ a.isNegative, aligned.exponent, aligned.isCut ? Subtract(difference, { 0, 1 }) : difference });
+    return PackDigits(digits) | (digits >> c_wordBits) << c_packedBits;
 }
 
 /// Both of up to fifteen digits.
@@ -104,21 +117,16 @@ Encoding AddSmall(Encoding a, Encoding b) noexcept
     std::uint64_t high = a.high & ~c_signBit;
     if (int const difference = GetSmallExponent(a) - GetSmallExponent(b); difference != 0) [[unlikely]]
     {
-        if (!(difference > 0 ? Align(left, difference) : Align(right, -difference)))
-            return AddFinite(Unpack(a), Unpack(b));
+        if (!(difference > 0 ? AlignSmall(left, difference) : AlignSmall(right, -difference)))
+            return AddLarge(a, b);
         high = difference > 0 ? b.high & ~c_signBit : high;
     }
     if (IsNegative(a) == IsNegative(b))
-        return { PackDigits(AddDigits(left, right)), high | (a.high & c_signBit) };
+        return { PackSum(AddDigits(left, right)), high | (a.high & c_signBit) };
     if (left == right)
         return { 0, high };
-    return left > right ? Encoding{ PackDigits(SubtractDigits(left, right)), high | (a.high & c_signBit) }
-                        : Encoding{ PackDigits(SubtractDigits(right, left)), high | (b.high & c_signBit) };
-}
-
-[[gnu::noinline]] Encoding AddLarge(Encoding a, Encoding b) noexcept
-{
-    return IsFinite(a) && IsFinite(b) ? AddFinite(Unpack(a), Unpack(b)) : Reference::Add(a, b);
+    return left > right ? Encoding{ PackDigits(SubtractDigits(left, right).digits), high | (a.high & c_signBit) }
+                        : Encoding{ PackDigits(SubtractDigits(right, left).digits), high | (b.high & c_signBit) };
 }
 
 } // namespace

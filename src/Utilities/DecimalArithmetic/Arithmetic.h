@@ -36,14 +36,21 @@ struct Whole
 Whole ToWhole(Encoding a) noexcept;
 Whole ToWhole(Finite value) noexcept;
 
-/// Half-up, from up to 36 digits.
+/// Half-up, from up to 36 digits; the exponent goes unchecked.
 Finite RoundToPrecision(Finite value) noexcept;
 
 /// Rounds to 34 digits and encodes: any exponent, up to 36 digits. When digits were cut off behind these, nothing is
 /// lost, since half-up looks at one more digit only.
-Encoding Finish(Finite const& value) noexcept;
+Encoding FinishLarge(Finite const& value) noexcept;
 
-/// Rounded to 34 digits, for finite numbers and a product whose exponent needs no check.
+inline Encoding Finish(Finite const& value) noexcept
+{
+    bool const fits = value.coefficient.high < GetPowerOfTen(c_precision - c_limbDigits);
+    return fits && IsPlainExponent(value.exponent) ? Pack(value) : FinishLarge(value);
+}
+
+/// Rounded to 34 digits; the exponent goes unchecked.
+Finite MultiplyByLimb(Finite const& a, std::uint64_t limb) noexcept;
 Finite MultiplyFinite(Finite const& a, Finite const& b) noexcept;
 
 /// As Decimal's constructor and ToDouble describe. The powers of two are kept once they were asked for; that may throw

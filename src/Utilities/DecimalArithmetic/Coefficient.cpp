@@ -1,57 +1,43 @@
 #include <Utilities/DecimalArithmetic/Coefficient.h>
 
+#include <bit>
+
 namespace Vek::Framework::Utilities::DecimalArithmetic
 {
 
-Shifted ShiftRight(Coefficient const& value, int count) noexcept
+namespace
 {
-    if (count == 0)
-        return { value, { 0, 0 } };
-    if (count < c_limbDigits)
+
+/// Not for zero. A number that ends in n zeros is divisible by 2^n, which is quicker to see.
+int CountTrailingZeros(std::uint64_t limb, int limit) noexcept
+{
+    int count = 0;
+    for (int const step : { 16, 8, 4, 2, 1 })
     {
-        Division const high = DivideByPowerOfTen(value.high, count);
-        Division const low = DivideByPowerOfTen(value.low, count);
-        return { { high.quotient, high.remainder * GetPowerOfTen(c_limbDigits - count) + low.quotient },
-                 { 0, low.remainder } };
+        if (count + step > limit || std::countr_zero(limb) < step)
+            continue;
+        Division const split = DivideByPowerOfTen(limb, step);
+        if (split.remainder != 0)
+            continue;
+        limb = split.quotient;
+        count += step;
     }
-    if (count == c_limbDigits)
-        return { { 0, value.high }, { 0, value.low } };
-    if (count <= 2 * c_limbDigits)
-    {
-        Division const high = DivideByPowerOfTen(value.high, count - c_limbDigits);
-        return { { 0, high.quotient }, { high.remainder, value.low } };
-    }
-    return { { 0, 0 }, value };
+    return count;
 }
 
-bool IsHalfOrMore(Coefficient const& dropped, int count) noexcept
-{
-    if (count == 0 || count > 2 * c_limbDigits)
-        return false;
-    return count <= c_limbDigits ? dropped.low >= 5 * GetPowerOfTen(count - 1)
-                                 : dropped.high >= 5 * GetPowerOfTen(count - c_limbDigits - 1);
-}
-
-Coefficient ShiftRightHalfUp(Coefficient const& value, int count) noexcept
-{
-    Shifted const shifted = ShiftRight(value, count);
-    return IsHalfOrMore(shifted.dropped, count) ? Add(shifted.value, { 0, 1 }) : shifted.value;
-}
+} // namespace
 
 int StripZeros(Coefficient& value, int limit) noexcept
 {
-    int stripped = 0;
-    for (int const step : { c_limbDigits, 16, 8, 4, 2, 1 })
+    int count = 0;
+    if (value.low == 0 && limit >= c_limbDigits)
     {
-        if (stripped + step > limit)
-            continue;
-        Shifted const shifted = ShiftRight(value, step);
-        if (!shifted.dropped.IsZero())
-            continue;
-        value = shifted.value;
-        stripped += step;
+        value = { 0, value.high };
+        count = c_limbDigits;
     }
-    return stripped;
+    int const rest = value.low == 0 ? limit - count : CountTrailingZeros(value.low, limit - count);
+    value = ShiftRight(value, rest).value;
+    return count + rest;
 }
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic

@@ -79,13 +79,42 @@ struct Shifted
 };
 
 /// For any count from 0 up.
-Shifted ShiftRight(Coefficient const& value, int count) noexcept;
+inline Shifted ShiftRight(Coefficient const& value, int count) noexcept
+{
+    if (count == 0)
+        return { value, { 0, 0 } };
+    if (count < c_limbDigits)
+    {
+        Division const high = DivideByPowerOfTen(value.high, count);
+        Division const low = DivideByPowerOfTen(value.low, count);
+        return { { high.quotient, high.remainder * GetPowerOfTen(c_limbDigits - count) + low.quotient },
+                 { 0, low.remainder } };
+    }
+    if (count == c_limbDigits)
+        return { { 0, value.high }, { 0, value.low } };
+    if (count <= 2 * c_limbDigits)
+    {
+        Division const high = DivideByPowerOfTen(value.high, count - c_limbDigits);
+        return { { 0, high.quotient }, { high.remainder, value.low } };
+    }
+    return { { 0, 0 }, value };
+}
 
 /// Whether digits dropped by a shift of `count` are at least half of a unit.
-bool IsHalfOrMore(Coefficient const& dropped, int count) noexcept;
+inline bool IsHalfOrMore(Coefficient const& dropped, int count) noexcept
+{
+    if (count == 0 || count > 2 * c_limbDigits)
+        return false;
+    return count <= c_limbDigits ? dropped.low >= 5 * GetPowerOfTen(count - 1)
+                                 : dropped.high >= 5 * GetPowerOfTen(count - c_limbDigits - 1);
+}
 
 /// value / 10^count, half away from zero.
-Coefficient ShiftRightHalfUp(Coefficient const& value, int count) noexcept;
+inline Coefficient ShiftRightHalfUp(Coefficient const& value, int count) noexcept
+{
+    Shifted const shifted = ShiftRight(value, count);
+    return IsHalfOrMore(shifted.dropped, count) ? Add(shifted.value, { 0, 1 }) : shifted.value;
+}
 
 /// Takes up to `limit` zeros off the end and answers how many. Not for zero.
 int StripZeros(Coefficient& value, int limit) noexcept;

@@ -13,41 +13,6 @@ int ToInt(std::strong_ordering order) noexcept
     return order < 0 ? -1 : order > 0 ? 1 : 0;
 }
 
-/// Of magnitudes, neither zero.
-int CompareMagnitudes(Finite const& a, Finite const& b) noexcept
-{
-    int const digitsOfA = CountDigits(a.coefficient);
-    int const digitsOfB = CountDigits(b.coefficient);
-    if (int const order = (a.exponent + digitsOfA) - (b.exponent + digitsOfB); order != 0)
-        return order < 0 ? -1 : 1;
-    return ToInt(ShiftLeft(a.coefficient, c_precision - digitsOfA) <=>
-                 ShiftLeft(b.coefficient, c_precision - digitsOfB));
-}
-
-int CompareFinite(Finite const& a, Finite const& b) noexcept
-{
-    int const signOfA = a.coefficient.IsZero() ? 0 : a.isNegative ? -1 : 1;
-    int const signOfB = b.coefficient.IsZero() ? 0 : b.isNegative ? -1 : 1;
-    if (signOfA != signOfB)
-        return signOfA < signOfB ? -1 : 1;
-    return signOfA == 0 ? 0 : signOfA * CompareMagnitudes(a, b);
-}
-
-/// The place of an Infinity among the others.
-int GetRank(Encoding a) noexcept
-{
-    return !IsInfinite(a) ? 0 : IsNegative(a) ? -1 : 1;
-}
-
-[[gnu::noinline]] int CompareLarge(Encoding a, Encoding b) noexcept
-{
-    if (IsNaN(a) || IsNaN(b))
-        return 0;
-    if (IsInfinite(a) || IsInfinite(b))
-        return ToInt(GetRank(a) <=> GetRank(b));
-    return CompareFinite(Unpack(a), Unpack(b));
-}
-
 /// The same exponent and sign: the highest declet that differs decides, if it differs in value.
 int CompareDeclets(std::uint64_t a, std::uint64_t b) noexcept
 {
@@ -63,6 +28,59 @@ int CompareDeclets(std::uint64_t a, std::uint64_t b) noexcept
     return 0;
 }
 
+/// The same exponent.
+int CompareDigits(Encoding a, Encoding b) noexcept
+{
+    if (int const order = ToInt(GetFirstDigit(a) <=> GetFirstDigit(b)); order != 0)
+        return order;
+    if (int const order = CompareDeclets(GetUpperDeclets(a), GetUpperDeclets(b)); order != 0)
+        return order;
+    return CompareDeclets(a.low & c_limbMask, b.low & c_limbMask);
+}
+
+/// Neither zero.
+int CompareMagnitudes(Encoding a, Encoding b) noexcept
+{
+    int const shift = GetExponent(a) - GetExponent(b);
+    if (shift == 0)
+        return CompareDigits(a, b);
+    // Digits and exponent together are the power of ten that a number stays below.
+    if (int const order = CountDigits(a) - CountDigits(b) + shift; order != 0)
+        return order < 0 ? -1 : 1;
+    // The digits of both fit into the one with more of them.
+    Coefficient const left = Unpack(a).coefficient;
+    Coefficient const right = Unpack(b).coefficient;
+    return shift > 0 ? ToInt(ShiftLeft(left, shift) <=> right) : ToInt(left <=> ShiftLeft(right, -shift));
+}
+
+int GetSign(Encoding a) noexcept
+{
+    return CountDigits(a) == 0 ? 0 : IsNegative(a) ? -1 : 1;
+}
+
+int CompareFinite(Encoding a, Encoding b) noexcept
+{
+    int const sign = GetSign(a);
+    if (int const other = GetSign(b); sign != other)
+        return sign < other ? -1 : 1;
+    return sign == 0 ? 0 : sign * CompareMagnitudes(a, b);
+}
+
+/// The place of an Infinity among the others.
+int GetRank(Encoding a) noexcept
+{
+    return !IsInfinite(a) ? 0 : IsNegative(a) ? -1 : 1;
+}
+
+[[gnu::noinline]] int CompareLarge(Encoding a, Encoding b) noexcept
+{
+    if (IsNaN(a) || IsNaN(b))
+        return 0;
+    if (IsInfinite(a) || IsInfinite(b))
+        return ToInt(GetRank(a) <=> GetRank(b));
+    return CompareFinite(a, b);
+}
+
 bool IsFirst(Encoding a, Encoding b, bool wantsGreater) noexcept
 {
     int order = Compare(a, b);
@@ -72,7 +90,7 @@ bool IsFirst(Encoding a, Encoding b, bool wantsGreater) noexcept
         if (isNegative != IsNegative(b))
             order = isNegative ? -1 : 1;
         else
-            order = ToInt(Unpack(a).exponent <=> Unpack(b).exponent) * (isNegative ? -1 : 1);
+            order = ToInt(GetExponent(a) <=> GetExponent(b)) * (isNegative ? -1 : 1);
     }
     return wantsGreater ? order >= 0 : order <= 0;
 }
@@ -81,8 +99,13 @@ bool IsFirst(Encoding a, Encoding b, bool wantsGreater) noexcept
 
 int Compare(Encoding a, Encoding b) noexcept
 {
-    if (AreSmall<c_limbBits>(a, b) && a.high == b.high)
-        return IsNegative(a) ? CompareDeclets(b.low, a.low) : CompareDeclets(a.low, b.low);
+    if (AreSmall<c_limbBits>(a, b))
+    {
+        if (a.high == b.high)
+            return IsNegative(a) ? CompareDeclets(b.low, a.low) : CompareDeclets(a.low, b.low);
+        if (IsNegative(a) != IsNegative(b))
+            return (a.low | b.low) == 0 ? 0 : IsNegative(a) ? -1 : 1;
+    }
     return CompareLarge(a, b);
 }
 
@@ -105,8 +128,7 @@ Encoding Minus(Encoding a) noexcept
     if (!IsFinite(a))
         return Reference::Minus(a);
     // 0 - 0 is 0, whatever the zero's sign.
-    bool const isZero = IsSmall<c_limbBits>(a) ? a.low == 0 : Unpack(a).coefficient.IsZero();
-    return isZero ? Encoding{ a.low, a.high & ~c_signBit } : Negate(a);
+    return CountDigits(a) == 0 ? Encoding{ a.low, a.high & ~c_signBit } : Negate(a);
 }
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic

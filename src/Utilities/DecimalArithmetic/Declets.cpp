@@ -78,14 +78,14 @@ constinit std::array<std::uint16_t, 1024> const c_digitsOfDeclets = Fill<std::ar
 constinit std::array<std::uint16_t, 4096> const c_decletsOfDigits = Fill<std::array<std::uint16_t, 4096>>(
     1024, [](auto& table, unsigned declet) { table[DecodeDeclet(declet)] = static_cast<std::uint16_t>(declet); });
 
-constinit std::array<DigitText, 1024> const c_textsOfDeclets =
-    Fill<std::array<DigitText, 1024>>(1024,
-                                      [](auto& table, unsigned declet)
-                                      {
-                                          unsigned const digits = DecodeDeclet(declet);
-                                          table[declet] = { { static_cast<wchar_t>(L'0' + (digits >> 8)),
-                                                              static_cast<wchar_t>(L'0' + (digits >> 4 & 15U)),
-                                                              static_cast<wchar_t>(L'0' + (digits & 15U)), 0 } };
-                                      });
+constinit std::array<DigitUnits, 1024> const c_textsOfDeclets =
+    Fill<std::array<DigitUnits, 1024>>(1024,
+                                       [](auto& table, unsigned declet)
+                                       {
+                                           unsigned const digits = DecodeDeclet(declet);
+                                           table[declet] = { { static_cast<wchar_t>(L'0' + (digits >> 8)),
+                                                               static_cast<wchar_t>(L'0' + (digits >> 4 & 15U)),
+                                                               static_cast<wchar_t>(L'0' + (digits & 15U)), 0 } };
+                                       });
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic

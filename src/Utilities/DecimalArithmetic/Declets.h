@@ -21,11 +21,11 @@ extern std::array<std::uint16_t, 1024> const c_digitsOfDeclets;
 extern std::array<std::uint16_t, 4096> const c_decletsOfDigits;
 
 /// The digit characters of a declet; four units, so that they are stored at once.
-struct DigitText
+struct DigitUnits
 {
     wchar_t units[4];
 };
-extern std::array<DigitText, 1024> const c_textsOfDeclets;
+extern std::array<DigitUnits, 1024> const c_textsOfDeclets;
 
 constexpr unsigned c_decletMask = 0x3FF;
 

@@ -22,9 +22,6 @@ Encoding FinishExact(Finite quotient, int idealExponent) noexcept
 /// digits, fifteen and eighteen, out of one of 128 by 64 bits.
 Encoding DivideLimbs(bool isNegative, int exponent, std::uint64_t dividend, std::uint64_t divisor) noexcept
 {
-    if (dividend % divisor == 0)
-        return Finish({ isNegative, exponent, { 0, dividend / divisor } });
-
     int const shift = CountDigits(dividend) - CountDigits(divisor);
     if (shift < 0)
         dividend *= GetPowerOfTen(-shift);

@@ -22,6 +22,9 @@ struct Encoding
 constexpr int c_bias = 6176;
 constexpr std::uint64_t c_signBit = std::uint64_t{ 1 } << 63;
 constexpr unsigned c_exponentShift = 46;
+constexpr unsigned c_limbBits = 60; // six declets, eighteen digits
+constexpr std::uint64_t c_limbMask = (std::uint64_t{ 1 } << c_limbBits) - 1;
+constexpr std::uint64_t c_billion = 1'000'000'000;
 constexpr std::uint64_t c_upperDeclets = (std::uint64_t{ 1 } << c_exponentShift) - 1;
 
 /// Where a finite result neither overflows nor is subnormal nor needs its exponent folded down.
@@ -84,24 +87,124 @@ struct Finite
     Coefficient coefficient; // up to 34 digits, or up to 36 on the way to a result
 };
 
-/// The digits of the eleven declets alone, which is also the payload of a NaN.
-Coefficient UnpackDeclets(Encoding encoding) noexcept;
+/// Three declets as nine digits.
+inline std::uint64_t UnpackNine(std::uint64_t declets) noexcept
+{
+    return (std::uint64_t{ c_valuesOfDeclets[GetDeclet(declets, 2)] } * 1000 +
+            c_valuesOfDeclets[GetDeclet(declets, 1)]) *
+               1000 +
+           c_valuesOfDeclets[GetDeclet(declets, 0)];
+}
 
-Finite Unpack(Encoding encoding) noexcept;
+/// Nine digits as three declets. 32 bits are enough and divide faster.
+inline std::uint64_t PackNine(std::uint32_t value) noexcept
+{
+    std::uint32_t const thousands = value / 1000;
+    std::uint32_t const millions = thousands / 1000;
+    return std::uint64_t{ c_declets[millions] } << 20U |
+           std::uint64_t{ c_declets[thousands - millions * 1000] } << 10U | c_declets[value - thousands * 1000];
+}
+
+/// Six declets as up to eighteen digits.
+inline std::uint64_t UnpackLimb(std::uint64_t declets) noexcept
+{
+    return UnpackNine(declets >> 30U) * c_billion + UnpackNine(declets);
+}
+
+/// Up to eighteen digits as six declets.
+inline std::uint64_t PackLimb(std::uint64_t value) noexcept
+{
+    std::uint64_t const high = value / c_billion;
+    return PackNine(static_cast<std::uint32_t>(high)) << 30U |
+           PackNine(static_cast<std::uint32_t>(value - high * c_billion));
+}
+
+/// Whether the first digit is 8 or 9: then it has one bit, and the exponent's highest bits stand further down.
+constexpr bool HasLargeDigit(Encoding encoding) noexcept
+{
+    return (encoding.high >> 61U & 3U) == 3;
+}
+
+/// Of a finite number.
+constexpr unsigned GetFirstDigit(Encoding encoding) noexcept
+{
+    auto const bits = static_cast<unsigned>(encoding.high >> 58U & 7U);
+    return HasLargeDigit(encoding) ? 8U | (bits & 1U) : bits;
+}
+
+/// Of a finite number.
+constexpr int GetExponent(Encoding encoding) noexcept
+{
+    auto const top = static_cast<int>(encoding.high >> (HasLargeDigit(encoding) ? 59U : 61U) & 3U);
+    return (top << 12 | static_cast<int>(encoding.high >> c_exponentShift & 0xFFFU)) - c_bias;
+}
+
+/// The five upper declets, which lie across both words.
+constexpr std::uint64_t GetUpperDeclets(Encoding encoding) noexcept
+{
+    return (encoding.high & c_upperDeclets) << 4U | encoding.low >> c_limbBits;
+}
+
+/// Of up to eighteen digits in six declets; 0 for zero.
+inline int CountDeclets(std::uint64_t declets) noexcept
+{
+    return (static_cast<int>(std::bit_width(declets)) + 9) / 10;
+}
+
+inline int CountPackedDigits(std::uint64_t declets) noexcept
+{
+    if (declets == 0)
+        return 0;
+    int const below = CountDeclets(declets) - 1;
+    return 3 * below +
+           CountDigits(std::uint64_t{ c_valuesOfDeclets[GetDeclet(declets, static_cast<unsigned>(below))] });
+}
+
+/// The digits of a finite number, 0 for zero, without decoding more than one declet.
+inline int CountDigits(Encoding encoding) noexcept
+{
+    if (GetFirstDigit(encoding) != 0)
+        return c_precision;
+    std::uint64_t const upper = GetUpperDeclets(encoding);
+    return upper != 0 ? c_limbDigits + CountPackedDigits(upper) : CountPackedDigits(encoding.low & c_limbMask);
+}
+
+/// The digits of the eleven declets alone, which is also the payload of a NaN.
+inline Coefficient UnpackDeclets(Encoding encoding) noexcept
+{
+    return { UnpackLimb(GetUpperDeclets(encoding)), UnpackLimb(encoding.low) };
+}
+
+inline Finite Unpack(Encoding encoding) noexcept
+{
+    Coefficient coefficient = UnpackDeclets(encoding);
+    coefficient.high += GetFirstDigit(encoding) * GetPowerOfTen(c_precision - 1 - c_limbDigits);
+    return { IsNegative(encoding), GetExponent(encoding), coefficient };
+}
+
+/// All but the declets.
+constexpr std::uint64_t PackHead(bool isNegative, int exponent, std::uint64_t firstDigit) noexcept
+{
+    std::uint64_t const biased = static_cast<std::uint64_t>(exponent + c_bias);
+    std::uint64_t const combined = firstDigit < 8
+                                       ? (biased >> 12U) << 61U | firstDigit << 58U
+                                       : std::uint64_t{ 3 } << 61U | (biased >> 12U) << 59U | (firstDigit & 1U) << 58U;
+    return (isNegative ? c_signBit : 0) | combined | (biased & 0xFFFU) << c_exponentShift;
+}
 
 /// The exponent from c_leastPlainExponent - 33 to c_greatestPlainExponent, the coefficient of up to 34 digits.
-Encoding Pack(Finite const& value) noexcept;
+inline Encoding Pack(Finite const& value) noexcept
+{
+    Division const high = DivideByPowerOfTen(value.coefficient.high, c_precision - 1 - c_limbDigits);
+    std::uint64_t const upper = PackLimb(high.remainder);
+    return { PackLimb(value.coefficient.low) | upper << c_limbBits,
+             PackHead(value.isNegative, value.exponent, high.quotient) | upper >> 4U };
+}
 
 constexpr bool IsPlainExponent(int exponent) noexcept
 {
     return exponent >= c_leastPlainExponent && exponent <= c_greatestPlainExponent;
 }
-
-/// Up to eighteen digits as six declets.
-std::uint64_t PackLimb(std::uint64_t value) noexcept;
-
-/// Six declets as up to eighteen digits.
-std::uint64_t UnpackLimb(std::uint64_t declets) noexcept;
 
 /// What most amounts are: an exponent from -2080 to 2015 and no digit above the lower word's 60 bits. Two such numbers
 /// are recognised by one comparison, and no result of theirs leaves the plain exponents.
@@ -113,9 +216,6 @@ constexpr bool AreSmall(Encoding a, Encoding b) noexcept
 {
     return ((((a.high ^ c_smallPattern) | (b.high ^ c_smallPattern)) & c_smallMask) | (a.low | b.low) >> Bits) == 0;
 }
-
-constexpr unsigned c_limbBits = 60;   // six declets, eighteen digits
-constexpr unsigned c_packedBits = 50; // five declets, fifteen digits
 
 template <unsigned Bits>
 constexpr bool IsSmall(Encoding a) noexcept

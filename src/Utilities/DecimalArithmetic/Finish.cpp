@@ -18,7 +18,7 @@ Finite RoundToPrecision(Finite value) noexcept
     return value;
 }
 
-Encoding Finish(Finite const& value) noexcept
+Encoding FinishLarge(Finite const& value) noexcept
 {
     Finite const rounded = RoundToPrecision(value);
     return IsPlainExponent(rounded.exponent) ? Pack(rounded) : Reference::Fit(value);

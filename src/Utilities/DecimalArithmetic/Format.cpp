@@ -1,6 +1,7 @@
 #include <Utilities/DecimalArithmetic/Text.h>
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
 namespace Vek::Framework::Utilities::DecimalArithmetic
@@ -9,116 +10,148 @@ namespace Vek::Framework::Utilities::DecimalArithmetic
 namespace
 {
 
-/// The digits of a coefficient without zeros in front; at least one.
-class DigitTextBuffer
+/// Writes the digits of a coefficient one after the other, with a separator before the last ones.
+class DigitWriter
 {
 public:
-    explicit DigitTextBuffer(Encoding encoding, unsigned firstDigit) noexcept
+    /// `whole` digits come before the separator.
+    DigitWriter(wchar_t* target, int whole, CodePoint const& separator) noexcept
+        : m_target(target),
+          m_whole(whole),
+          m_separator(separator)
     {
-        wchar_t* target = m_units;
-        *target++ = static_cast<wchar_t>(L'0' + firstDigit);
-        std::uint64_t const upper = (encoding.high & c_upperDeclets) << 4U | encoding.low >> c_limbBits;
-        if (firstDigit == 0 && upper == 0)
-            target = m_units; // the lower six alone
-        else
-            for (unsigned index = 5; index-- > 0; target += 3)
-                Store(target, upper, index);
-        for (unsigned index = 6; index-- > 0; target += 3)
-            Store(target, encoding.low, index);
-        m_end = target;
-        m_begin = std::find_if(m_units, m_end - 1, [](wchar_t unit) { return unit != L'0'; });
     }
 
-    wchar_t const* begin() const noexcept { return m_begin; }
-    wchar_t const* end() const noexcept { return m_end; }
-    int GetCount() const noexcept { return static_cast<int>(m_end - m_begin); }
+    void Write(Encoding encoding) noexcept
+    {
+        unsigned const firstDigit = GetFirstDigit(encoding);
+        std::uint64_t const upper = GetUpperDeclets(encoding);
+        if (firstDigit != 0)
+            WriteUnit(static_cast<wchar_t>(L'0' + firstDigit));
+        if (firstDigit != 0)
+            WriteDeclets(upper, 5);
+        else if (upper != 0)
+            WriteWithoutZeros(upper);
+        if (firstDigit != 0 || upper != 0)
+            WriteDeclets(encoding.low, 6);
+        else
+            WriteWithoutZeros(encoding.low & c_limbMask);
+    }
 
 private:
-    /// Four units, of which the next declet overwrites the last.
-    static void Store(wchar_t* target, std::uint64_t declets, unsigned index) noexcept
+    void WriteUnit(wchar_t digit) noexcept
     {
-        std::memcpy(target, c_textsOfDeclets[GetDeclet(declets, index)].units, sizeof(DigitText));
+        if (m_whole-- == 0)
+        {
+            m_target = std::copy(m_separator.begin(), m_separator.end(), m_target);
+            m_whole = c_precision; // no other separator
+        }
+        *m_target++ = digit;
     }
 
-    wchar_t m_units[c_precision + 3];
-    wchar_t* m_end;
-    wchar_t* m_begin;
+    /// The lowest of a word that holds six.
+    void WriteDeclets(std::uint64_t declets, int count) noexcept
+    {
+        while (count-- > 0)
+            WriteDeclet(c_textsOfDeclets[GetDeclet(declets, static_cast<unsigned>(count))]);
+    }
+
+    /// At least one digit.
+    void WriteWithoutZeros(std::uint64_t declets) noexcept
+    {
+        int const count = std::max(1, CountDeclets(declets));
+        std::size_t const declet = GetDeclet(declets, static_cast<unsigned>(count) - 1);
+        for (int i = 3 - std::max(1, CountDigits(std::uint64_t{ c_valuesOfDeclets[declet] })); i < 3; ++i)
+            WriteUnit(c_textsOfDeclets[declet].units[i]);
+        WriteDeclets(declets, count - 1);
+    }
+
+    /// Stores four units at once, of which the last is overwritten next: by a digit, or by the text's own end.
+    void WriteDeclet(DigitUnits const& text) noexcept
+    {
+        if (m_whole >= 3)
+        {
+            std::memcpy(m_target, text.units, sizeof(text.units));
+            m_target += 3;
+            m_whole -= 3;
+            return;
+        }
+        for (int i = 0; i < 3; ++i)
+            WriteUnit(text.units[i]);
+    }
+
+    wchar_t* m_target;
+    int m_whole;
+    CodePoint const& m_separator;
 };
-
-unsigned GetFirstDigit(Encoding encoding) noexcept
-{
-    bool const isLarge = (encoding.high >> 61U & 3U) == 3;
-    return static_cast<unsigned>(isLarge ? 8 + (encoding.high >> 58U & 1U) : encoding.high >> 58U & 7U);
-}
-
-int GetExponent(Encoding encoding) noexcept
-{
-    bool const isLarge = (encoding.high >> 61U & 3U) == 3;
-    auto const top = static_cast<int>(encoding.high >> (isLarge ? 59U : 61U) & 3U);
-    return (top << 12 | static_cast<int>(encoding.high >> c_exponentShift & 0xFFFU)) - c_bias;
-}
 
 void Append(std::wstring& target, CodePoint const& codePoint)
 {
     target.append(codePoint.begin(), codePoint.end());
 }
 
-void AppendSpecial(std::wstring& target, Encoding value)
+/// The digits, of which there are `count`, with the separator after `whole` of them if there are more.
+void AppendDigits(std::wstring& target, Encoding value, int count, int whole, CodePoint const& separator)
 {
-    target.append(IsInfinite(value) ? L"Infinity" : IsSignallingNaN(value) ? L"sNaN" : L"NaN");
-    DigitTextBuffer const payload(value, 0);
-    if (IsNaN(value) && *payload.begin() != L'0')
-        target.append(payload.begin(), payload.end());
+    std::size_t const size = target.size();
+    std::size_t const separatorSize = count > whole ? separator.GetCodeUnitsCount() : 0;
+    target.resize(size + static_cast<std::size_t>(count) + separatorSize);
+    DigitWriter(target.data() + size, whole, separator).Write(value);
 }
 
-/// Digits before the separator, and `zeros` more.
-void AppendWhole(std::wstring& target, wchar_t const* digits, int count, int zeros, Nullable<CodePoint> const& grouping)
+void AppendSpecial(std::wstring& target, Encoding value)
 {
-    if (!grouping.HasValue())
+    if (IsNegative(value))
+        target += L'-';
+    target.append(IsInfinite(value) ? L"Infinity" : IsSignallingNaN(value) ? L"sNaN" : L"NaN");
+    Encoding const payload{ value.low, value.high & c_upperDeclets };
+    if (IsNaN(value) && CountDigits(payload) != 0)
+        AppendDigits(target, payload, CountDigits(payload), CountDigits(payload), L'0');
+}
+
+/// Puts the mark behind every digit of [begin, end) that a multiple of three digits follows.
+void Group(std::wstring& target, std::size_t begin, std::size_t end, CodePoint const& mark)
+{
+    std::wstring const digits = target.substr(begin, end - begin);
+    std::wstring const rest = target.substr(end);
+    target.resize(begin);
+    for (std::size_t i = 0; i < digits.size(); ++i)
     {
-        target.append(digits, static_cast<std::size_t>(count)).append(static_cast<std::size_t>(zeros), L'0');
-        return;
-    }
-    CodePoint const& mark = grouping.GetValue();
-    for (int left = count + zeros - 1; left >= 0; --left)
-    {
-        target += left >= zeros ? *digits++ : L'0';
-        if (left != 0 && left % 3 == 0)
+        target += digits[i];
+        if (std::size_t const left = digits.size() - i - 1; left != 0 && left % 3 == 0)
             Append(target, mark);
     }
+    target += rest;
 }
 
 void AppendFinite(std::wstring& target, Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping)
 {
-    DigitTextBuffer const digits(value, GetFirstDigit(value));
     int const exponent = GetExponent(value);
-    int const count = digits.GetCount();
+    int const digits = CountDigits(value);
+    int const count = std::max(1, digits);
     int const whole = count + exponent; // digits before the separator
-    if (exponent >= 0)
-        return AppendWhole(target, digits.begin(), count, exponent, grouping);
+    if (IsNegative(value) && digits != 0)
+        target += L'-';
+    std::size_t const begin = target.size();
     if (whole > 0)
+        AppendDigits(target, value, count, std::min(whole, count), separator);
+    else
     {
-        AppendWhole(target, digits.begin(), whole, 0, grouping);
+        target += L'0';
         Append(target, separator);
-        target.append(digits.begin() + whole, digits.end());
-        return;
+        target.append(static_cast<std::size_t>(-whole), L'0');
+        AppendDigits(target, value, count, count, separator);
     }
-    target += L'0';
-    Append(target, separator);
-    target.append(static_cast<std::size_t>(-whole), L'0').append(digits.begin(), digits.end());
-}
-
-bool IsZero(Encoding value) noexcept
-{
-    return IsFinite(value) && Unpack(value).coefficient.IsZero();
+    if (exponent > 0)
+        target.append(static_cast<std::size_t>(exponent), L'0');
+    if (grouping.HasValue() && whole > 3)
+        Group(target, begin, begin + static_cast<std::size_t>(whole), grouping.GetValue());
 }
 
 } // namespace
 
 void AppendText(std::wstring& target, Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping)
 {
-    if (IsNegative(value) && !IsZero(value))
-        target += L'-';
     if (IsFinite(value))
         AppendFinite(target, value, separator, grouping);
     else

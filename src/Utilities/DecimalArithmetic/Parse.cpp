@@ -177,10 +177,44 @@ private:
     bool m_isNegative = false;
 };
 
+/// Up to eighteen digits with at most one separator, and a sign: nearly every text. False for any other.
+bool ParsePlain(std::wstring_view text, wchar_t separator, Encoding& value) noexcept
+{
+    constexpr std::size_t longest = c_limbDigits + 2;
+    wchar_t const* at = text.data();
+    wchar_t const* const end = at + text.size();
+    if (text.empty() || text.size() > longest)
+        return false;
+    bool const isNegative = *at == L'-';
+    if (isNegative)
+        ++at;
+
+    wchar_t const* const begin = at;
+    std::uint64_t number = 0; // wraps where there are too many digits
+    for (; at != end && GetDigit(*at) <= 9; ++at)
+        number = number * 10 + GetDigit(*at);
+    std::ptrdiff_t digits = at - begin;
+    std::ptrdiff_t fraction = 0;
+    if (at != end && *at == separator)
+    {
+        wchar_t const* const point = ++at;
+        for (; at != end && GetDigit(*at) <= 9; ++at)
+            number = number * 10 + GetDigit(*at);
+        fraction = at - point;
+        digits += fraction;
+    }
+    if (at != end || digits == 0 || digits > c_limbDigits)
+        return false;
+    value = PackSmall(isNegative, -static_cast<int>(fraction), number);
+    return true;
+}
+
 } // namespace
 
 ParsedNumber Parse(std::wstring_view text, wchar_t separator) noexcept
 {
+    if (Encoding value; ParsePlain(text, separator, value))
+        return { value, true, text.size() };
     return Parser(text, separator).Run();
 }
 

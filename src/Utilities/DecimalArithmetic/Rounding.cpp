@@ -36,10 +36,28 @@ bool MoveTo(Finite& value, int exponent, Rounding rounding) noexcept
     return true;
 }
 
+/// The same for up to eighteen digits; false as well where that does not do.
+bool MoveSmallTo(Encoding a, int exponent, Rounding rounding, Encoding& result) noexcept
+{
+    int const count = exponent - GetSmallExponent(a);
+    if (count < 0 || count > c_limbDigits || !IsSmallExponent(exponent))
+        return false;
+    std::uint64_t coefficient = UnpackLimb(a.low);
+    if (count > 0)
+    {
+        Division const split = DivideByPowerOfTen(coefficient, count);
+        coefficient = split.quotient + (Increments(rounding, { 0, split.remainder }, count) ? 1U : 0U);
+    }
+    result = PackSmall(IsNegative(a), exponent, coefficient);
+    return true;
+}
+
 } // namespace
 
 Encoding Rescale(Encoding a, int exponent, Rounding rounding) noexcept
 {
+    if (Encoding result; IsSmall<c_limbBits>(a) && MoveSmallTo(a, exponent, rounding, result))
+        return result;
     if (!IsFinite(a) || !IsPlainExponent(exponent))
         return Reference::Rescale(a, exponent, rounding);
     Finite value = Unpack(a);
