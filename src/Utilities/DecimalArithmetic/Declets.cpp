@@ -78,6 +78,14 @@ constinit std::array<std::uint16_t, 1024> const c_digitsOfDeclets = Fill<std::ar
 constinit std::array<std::uint16_t, 4096> const c_decletsOfDigits = Fill<std::array<std::uint16_t, 4096>>(
     1024, [](auto& table, unsigned declet) { table[DecodeDeclet(declet)] = static_cast<std::uint16_t>(declet); });
 
+constinit std::array<std::uint8_t, 1024> const c_lengthsOfDeclets = Fill<std::array<std::uint8_t, 1024>>(
+    1024,
+    [](auto& table, unsigned declet)
+    {
+        unsigned const digits = DecodeDeclet(declet);
+        table[declet] = digits == 0 ? 0 : digits < 0x10 ? 1 : digits < 0x100 ? 2 : 3;
+    });
+
 constinit std::array<DigitUnits, 1024> const c_textsOfDeclets =
     Fill<std::array<DigitUnits, 1024>>(1024,
                                        [](auto& table, unsigned declet)

@@ -20,6 +20,9 @@ extern std::array<std::uint16_t, 1024> const c_digitsOfDeclets;
 /// The canonical declet for three digits of four bits each; 0 for what is no digit.
 extern std::array<std::uint16_t, 4096> const c_decletsOfDigits;
 
+/// How many digits a declet has without zeros in front: 0 to 3.
+extern std::array<std::uint8_t, 1024> const c_lengthsOfDeclets;
+
 /// The digit characters of a declet; four units, so that they are stored at once.
 struct DigitUnits
 {

@@ -146,18 +146,10 @@ constexpr std::uint64_t GetUpperDeclets(Encoding encoding) noexcept
 }
 
 /// Of up to eighteen digits in six declets; 0 for zero.
-inline int CountDeclets(std::uint64_t declets) noexcept
-{
-    return (static_cast<int>(std::bit_width(declets)) + 9) / 10;
-}
-
 inline int CountPackedDigits(std::uint64_t declets) noexcept
 {
-    if (declets == 0)
-        return 0;
-    int const below = CountDeclets(declets) - 1;
-    return 3 * below +
-           CountDigits(std::uint64_t{ c_valuesOfDeclets[GetDeclet(declets, static_cast<unsigned>(below))] });
+    unsigned const below = (static_cast<unsigned>(std::bit_width(declets | 1U)) - 1) / 10;
+    return static_cast<int>(3 * below) + c_lengthsOfDeclets[GetDeclet(declets, below)];
 }
 
 /// The digits of a finite number, 0 for zero, without decoding more than one declet.

@@ -22,20 +22,20 @@ public:
     {
     }
 
-    void Write(Encoding encoding) noexcept
+    /// The lowest `count` digits, from 1 to 34.
+    void Write(Encoding encoding, int count) noexcept
     {
-        unsigned const firstDigit = GetFirstDigit(encoding);
-        std::uint64_t const upper = GetUpperDeclets(encoding);
-        if (firstDigit != 0)
-            WriteUnit(static_cast<wchar_t>(L'0' + firstDigit));
-        if (firstDigit != 0)
-            WriteDeclets(upper, 5);
-        else if (upper != 0)
-            WriteWithoutZeros(upper);
-        if (firstDigit != 0 || upper != 0)
-            WriteDeclets(encoding.low, 6);
-        else
-            WriteWithoutZeros(encoding.low & c_limbMask);
+        if (count == c_precision)
+        {
+            WriteUnit(static_cast<wchar_t>(L'0' + GetFirstDigit(encoding)));
+            --count;
+        }
+        if (count > c_limbDigits)
+        {
+            WriteLowest(GetUpperDeclets(encoding), count - c_limbDigits);
+            count = c_limbDigits;
+        }
+        WriteLowest(encoding.low, count);
     }
 
 private:
@@ -49,21 +49,23 @@ private:
         *m_target++ = digit;
     }
 
-    /// The lowest of a word that holds six.
-    void WriteDeclets(std::uint64_t declets, int count) noexcept
+    /// The lowest `count` digits of six declets.
+    void WriteLowest(std::uint64_t declets, int count) noexcept
     {
-        while (count-- > 0)
-            WriteDeclet(c_textsOfDeclets[GetDeclet(declets, static_cast<unsigned>(count))]);
+        int index = (count - 1) / 3;
+        if (int const missing = 3 * (index + 1) - count; missing != 0)
+        {
+            DigitUnits const& text = GetText(declets, index--);
+            for (int i = missing; i < 3; ++i)
+                WriteUnit(text.units[i]);
+        }
+        for (; index >= 0; --index)
+            WriteDeclet(GetText(declets, index));
     }
 
-    /// At least one digit.
-    void WriteWithoutZeros(std::uint64_t declets) noexcept
+    static DigitUnits const& GetText(std::uint64_t declets, int index) noexcept
     {
-        int const count = std::max(1, CountDeclets(declets));
-        std::size_t const declet = GetDeclet(declets, static_cast<unsigned>(count) - 1);
-        for (int i = 3 - std::max(1, CountDigits(std::uint64_t{ c_valuesOfDeclets[declet] })); i < 3; ++i)
-            WriteUnit(c_textsOfDeclets[declet].units[i]);
-        WriteDeclets(declets, count - 1);
+        return c_textsOfDeclets[GetDeclet(declets, static_cast<unsigned>(index))];
     }
 
     /// Stores four units at once, of which the last is overwritten next: by a digit, or by the text's own end.
@@ -90,13 +92,17 @@ void Append(std::wstring& target, CodePoint const& codePoint)
     target.append(codePoint.begin(), codePoint.end());
 }
 
-/// The digits, of which there are `count`, with the separator after `whole` of them if there are more.
-void AppendDigits(std::wstring& target, Encoding value, int count, int whole, CodePoint const& separator)
+/// A sign if there is one, then the lowest `count` digits, with the separator after `whole` of them if there are more.
+void AppendDigits(std::wstring& target, bool isNegative, Encoding value, int count, int whole,
+                  CodePoint const& separator)
 {
     std::size_t const size = target.size();
+    std::size_t const signSize = isNegative ? 1 : 0;
     std::size_t const separatorSize = count > whole ? separator.GetCodeUnitsCount() : 0;
-    target.resize(size + static_cast<std::size_t>(count) + separatorSize);
-    DigitWriter(target.data() + size, whole, separator).Write(value);
+    target.resize(size + signSize + static_cast<std::size_t>(count) + separatorSize);
+    wchar_t* const begin = target.data() + size;
+    *begin = L'-'; // overwritten by the first digit where there is no sign
+    DigitWriter(begin + signSize, whole, separator).Write(value, count);
 }
 
 void AppendSpecial(std::wstring& target, Encoding value)
@@ -106,7 +112,7 @@ void AppendSpecial(std::wstring& target, Encoding value)
     target.append(IsInfinite(value) ? L"Infinity" : IsSignallingNaN(value) ? L"sNaN" : L"NaN");
     Encoding const payload{ value.low, value.high & c_upperDeclets };
     if (IsNaN(value) && CountDigits(payload) != 0)
-        AppendDigits(target, payload, CountDigits(payload), CountDigits(payload), L'0');
+        AppendDigits(target, false, payload, CountDigits(payload), CountDigits(payload), L'0');
 }
 
 /// Puts the mark behind every digit of [begin, end) that a multiple of three digits follows.
@@ -130,17 +136,16 @@ void AppendFinite(std::wstring& target, Encoding value, CodePoint const& separat
     int const digits = CountDigits(value);
     int const count = std::max(1, digits);
     int const whole = count + exponent; // digits before the separator
-    if (IsNegative(value) && digits != 0)
-        target += L'-';
-    std::size_t const begin = target.size();
+    bool const isNegative = IsNegative(value) && digits != 0;
+    std::size_t const begin = target.size() + (isNegative ? 1 : 0);
     if (whole > 0)
-        AppendDigits(target, value, count, std::min(whole, count), separator);
+        AppendDigits(target, isNegative, value, count, std::min(whole, count), separator);
     else
     {
-        target += L'0';
+        target.append(isNegative ? L"-0" : L"0");
         Append(target, separator);
         target.append(static_cast<std::size_t>(-whole), L'0');
-        AppendDigits(target, value, count, count, separator);
+        AppendDigits(target, false, value, count, count, separator);
     }
     if (exponent > 0)
         target.append(static_cast<std::size_t>(exponent), L'0');
