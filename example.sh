@@ -1,15 +1,24 @@
 #!/usr/bin/env bash
-# Builds the library and the example program and runs it. Installs what is missing (Debian 12).
+# Builds the library and an example program and runs it. Installs what is missing (Debian 12).
+#
+#   ./example.sh                             SettingsDocument, the tour through XML documents
+#   ./example.sh PROGRAM [ARGUMENT...]       another one: a folder of examples/ with its own arguments
 set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/packages.sh
 require_packages g++ cmake ninja-build gdb-source gnucash-common
 
+program=SettingsDocument
+if [ $# -gt 0 ] && [ -f "examples/$1/main.cpp" ]; then
+    program=$1
+    shift
+fi
+
 mkdir -p build/linux-release
 log=build/linux-release/build.log
 if ! { cmake --preset linux-release -DVEK_BUILD_TESTS=OFF &&
-    cmake --build build/linux-release --target SettingsDocument; } </dev/null >"$log" 2>&1; then
+    cmake --build build/linux-release --target "$program"; } </dev/null >"$log" 2>&1; then
     cat "$log" >&2
     exit 1
 fi
-exec build/linux-release/bin/SettingsDocument "$@"
+exec build/linux-release/bin/$program "$@"

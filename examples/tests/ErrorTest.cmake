@@ -1,17 +1,6 @@
 # Every failure ends with exit code 1 and says what is wrong, and nothing that was there is lost.
 include(${CMAKE_CURRENT_LIST_DIR}/RunProgram.cmake)
 
-function(expect_error why pattern)
-    run_program(${ARGN})
-    if(NOT exit_code STREQUAL "1")
-        message(SEND_ERROR "${why}: exit code ${exit_code} instead of 1\n${errors}")
-    endif()
-    string(REPLACE "\r" "" errors "${errors}")
-    if(NOT errors MATCHES "^SettingsDocument: ${pattern}")
-        message(SEND_ERROR "${why}: expected ${pattern}, told\n${errors}")
-    endif()
-endfunction()
-
 # Reads `content` as settings: the error must have the code, stand in the line and column and in the open elements.
 function(expect_document_error why code place path content)
     file(WRITE ${WORK_FOLDER}/document.xml "${content}")

@@ -1,4 +1,4 @@
-# Shared by the test scripts, which are run as: cmake -DWORK_FOLDER=... -P SCRIPT.cmake -- PROGRAM...
+# Shared by the test scripts, which are run as: cmake -DNAME=... -DWORK_FOLDER=... -P SCRIPT.cmake -- PROGRAM...
 set(program)
 set(is_program FALSE)
 foreach(index RANGE 1 ${CMAKE_ARGC})
@@ -24,6 +24,19 @@ macro(require_success)
         message(FATAL_ERROR "exit code ${exit_code}\n${errors}")
     endif()
 endmacro()
+
+# The program must end with exit code 1 and tell an error that begins with its own name and matches `pattern`.
+function(expect_error why pattern)
+    run_program(${ARGN})
+    if(NOT exit_code STREQUAL "1")
+        message(SEND_ERROR "${why}: exit code ${exit_code} instead of 1\n${errors}")
+    endif()
+    string(REPLACE "\r" "" errors "${errors}")
+    if(NOT errors MATCHES "^${NAME}: ${pattern}")
+        message(SEND_ERROR "${why}: expected ${pattern}, told\n${errors}")
+    endif()
+    set(errors "${errors}" PARENT_SCOPE)
+endfunction()
 
 function(require_same_bytes expected actual)
     execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${expected} ${actual} RESULT_VARIABLE differ

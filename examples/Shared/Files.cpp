@@ -1,44 +1,18 @@
-#include "Document.h"
+#include "Files.h"
 
+#include <Utilities/StreamHelper.h>
 #include <Utilities/WStringHelper.h>
 
 #include <fstream>
 #include <system_error>
 
-using namespace Vek::Framework::IXMLStreamer::Native;
-using Vek::Framework::Utilities::WStringHelper;
+using namespace Vek::Framework::Utilities;
 
 namespace Example
 {
 
 namespace
 {
-
-std::string NameOf(std::filesystem::path const& path)
-{
-    std::u8string const name = path.filename().u8string();
-    return { name.begin(), name.end() };
-}
-
-std::string UTF8FromDocument(std::string const& bytes)
-{
-    return WStringHelper::GetUTF8FromUTF16(FromDocument(bytes));
-}
-
-// Code and text say what is wrong, the parser's result says where, the open elements say in which part of the document.
-std::string Explain(std::filesystem::path const& path, XMLStreamer const& reader)
-{
-    StreamerError const& error = reader.GetError();
-    auto const& place = reader.GetParserResult();
-    std::string text = NameOf(path) + " is not a valid document:";
-    text += "\n  code      " + std::to_string(error.GetErrorCode());
-    text += "\n  text      " + UTF8FromDocument(error.GetDescription());
-    if (!error.GetExpectedSymbol().empty())
-        text += "\n  expected  " + UTF8FromDocument(error.GetExpectedSymbol());
-    text += "\n  place     line " + std::to_string(place.line) + ", column " + std::to_string(place.column);
-    text += "\n  in        " + UTF8FromDocument(reader.GetOpenElementPath());
-    return text;
-}
 
 // A new file beside the target that vanishes unless it takes the target's place. It takes the place of a file only: a
 // device or a folder stays, and so does a file of the temporary name that somebody else has left there.
@@ -80,6 +54,12 @@ private:
 
 } // namespace
 
+std::string NameOf(std::filesystem::path const& path)
+{
+    std::u8string const name = path.filename().u8string();
+    return { name.begin(), name.end() };
+}
+
 std::wstring FromDocument(std::string const& bytes)
 {
     return WStringHelper::GetWStringFromCurrentCodepage(bytes);
@@ -93,39 +73,33 @@ std::string ToDocument(std::wstring const& text)
     return bytes;
 }
 
-void ReadDocument(XMLStreamer& reader, std::filesystem::path const& path)
+void RequireFile(std::filesystem::path const& path)
 {
     // Linux opens a directory like a file and fails only when it is read, so ask first.
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
         throw DocumentError(NameOf(path) + " does not exist or is not a file");
+}
 
+std::string ReadFile(std::filesystem::path const& path)
+{
+    RequireFile(path);
     std::ifstream stream(path, std::ios::binary); // text mode would end at the first byte 26 on Windows
     if (!stream)
         throw DocumentError(NameOf(path) + " cannot be opened");
-
-    bool const isComplete = reader.ProcessSource(stream);
+    auto const bytes = StreamHelper::ReadAllBytes(stream);
     if (stream.bad())
         throw DocumentError(NameOf(path) + " cannot be read");
-    if (!isComplete)
-        throw InvalidDocument(Explain(path, reader));
+    return { reinterpret_cast<char const*>(bytes->GetData()), bytes->GetSize() };
 }
 
-void WriteDocument(std::filesystem::path const& path, std::function<void(XMLWriter&)> const& write)
+void ReplaceFile(std::filesystem::path const& path, std::function<void(std::ostream&)> const& write)
 {
     TemporaryFile const temporary(path);
     std::ofstream stream(temporary.GetPath(), std::ios::binary);
     if (!stream)
         throw DocumentError(NameOf(path) + " cannot be written: its folder does not take a new file");
-
-    // The writer remembers its first failure, so that asking at the end is enough.
-    XMLWriter writer;
-    writer.StartWriting(stream, true);
-    write(writer);
-    if (!writer.FinishWriting())
-        throw DocumentError(NameOf(path) +
-                            " is not written: " + UTF8FromDocument(writer.GetLastError().GetDescription()));
-
+    write(stream);
     stream.close(); // a full disk shows here at the latest
     if (!stream)
         throw DocumentError(NameOf(path) + " cannot be written completely");

@@ -1,22 +1,15 @@
 #pragma once
 
+#include "Files.h"
+
 #include <IXMLStreamer/XMLStreamer.h>
 #include <IXMLStreamer/XMLWriter.h>
 
 #include <filesystem>
 #include <functional>
-#include <stdexcept>
-#include <string>
 
 namespace Example
 {
-
-/// A document that cannot be read or written; what() says why, in UTF-8, ready for the console.
-class DocumentError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// A file that was read and is not the document that was expected.
 class InvalidDocument : public DocumentError
@@ -24,12 +17,6 @@ class InvalidDocument : public DocumentError
 public:
     using DocumentError::DocumentError;
 };
-
-/// A document's bytes are Windows-1252, the program's text is UTF-16.
-std::wstring FromDocument(std::string const& bytes);
-
-/// Throws DocumentError for text that a document cannot hold, before anything of it is lost.
-std::string ToDocument(std::wstring const& text);
 
 /// Runs `reader` over the file. Its handlers have then seen the whole document.
 /// Throws InvalidDocument when it is not what `reader` expects, DocumentError when the file cannot be read at all.

@@ -1,0 +1,135 @@
+// Takes a bank statement apart and puts it together again: separated values in Windows-1252 with amounts, escaped
+// separators and attachments come in; the rows that a filter chooses go out as XML and as separated values.
+//
+//   DataExchange STATEMENT FILTER XML CSV
+//       for example: DataExchange statement.csv 'betrag > 100 && waehrung == "EUR"' chosen.xml chosen.csv
+//
+// Bad lines are told with their number and reason and skipped. Both files are read again and compared with what was
+// written. The exit code is 0, or 1 after an error, which is then told on the standard error stream.
+// Read Statement.cpp first, then Filter.cpp.
+
+#include "BookingDocument.h"
+#include "Console.h"
+#include "Files.h"
+#include "Filter.h"
+#include "Statement.h"
+
+#include <Utilities/WStringHelper.h>
+
+#include <algorithm>
+#include <iostream>
+#include <map>
+
+using namespace Example;
+using namespace Vek::Framework::Utilities;
+
+namespace
+{
+
+struct CommandLine
+{
+    std::filesystem::path statement;
+    std::string filter; // UTF-8
+    std::filesystem::path document;
+    std::filesystem::path values;
+};
+
+CommandLine ParseCommandLine(std::vector<std::filesystem::path> const& arguments)
+{
+    if (arguments.size() != 4)
+        throw DocumentError("usage: DataExchange STATEMENT FILTER XML CSV");
+    std::u8string const filter = arguments[1].u8string(); // a path knows how the system encodes its command line
+    return { arguments[0], { filter.begin(), filter.end() }, arguments[2], arguments[3] };
+}
+
+std::string Count(std::size_t number, char const* one, char const* many)
+{
+    return std::to_string(number) + " " + (number == 1 ? one : many);
+}
+
+void PrintSkipped(CommandLine const& files, Statement const& statement)
+{
+    std::cout << NameOf(files.statement) << ": " << Count(statement.bookings.size(), "booking", "bookings") << ", "
+              << Count(statement.skipped.size(), "bad line", "bad lines") << '\n';
+    for (SkippedLine const& skipped : statement.skipped)
+        std::cout << "  line " << skipped.line << " is skipped: " << skipped.reason << '\n';
+}
+
+std::wstring AlignRight(std::wstring const& text, std::size_t width)
+{
+    return std::wstring(std::max(width, text.size()) - text.size(), L' ') + text;
+}
+
+void PrintBookings(std::vector<Booking> const& bookings)
+{
+    std::map<std::wstring, Decimal> sums;
+    for (Booking const& booking : bookings)
+    {
+        sums[booking.currency] += booking.amount;
+        std::wstring const attachment =
+            booking.attachment.empty() ? L"" : L" (" + std::to_wstring(booking.attachment.size()) + L" bytes attached)";
+        PrintLine(L"  " + booking.date + AlignRight(booking.amount.ToString(L',', CodePoint(L'.')), 24) + L" " +
+                  booking.currency + L"  " + booking.text + attachment);
+    }
+    for (auto const& [currency, sum] : sums)
+        PrintLine(L"  sum       " + AlignRight(sum.ToString(L',', CodePoint(L'.')), 24) + L" " + currency);
+}
+
+void RequireSame(bool isSame, std::filesystem::path const& path)
+{
+    if (!isSame)
+        throw DocumentError(NameOf(path) + " was read again with other bookings than those written");
+}
+
+void WriteDocumentAndCheck(std::filesystem::path const& path, std::vector<Booking> const& chosen)
+{
+    WriteBookingDocument(path, chosen);
+    RequireSame(ReadBookingDocument(path) == chosen, path);
+    std::cout << NameOf(path) << " holds them, read again and compared\n";
+}
+
+void WriteValuesAndCheck(CommandLine const& files, Statement const& chosen)
+{
+    WriteStatement(files.values, chosen);
+    Statement const again = ReadStatement(files.values);
+    RequireSame(again.skipped.empty() && again.bookings == chosen.bookings, files.values);
+    std::cout << NameOf(files.values) << " holds them, read again and compared";
+    if (ReadFile(files.values) == ReadFile(files.statement))
+        std::cout << "; it is the statement, byte for byte";
+    std::cout << '\n';
+}
+
+void Run(CommandLine const& files)
+{
+    Filter const filter = ParseFilter(files.filter);
+    Statement const statement = ReadStatement(files.statement);
+    PrintSkipped(files, statement);
+
+    Statement chosen{ {}, {}, statement.lineEnd };
+    std::copy_if(statement.bookings.begin(), statement.bookings.end(), std::back_inserter(chosen.bookings), filter);
+    std::cout << Count(chosen.bookings.size(), "booking is", "bookings are") << " chosen by "
+              << (files.filter.empty() ? "no filter" : files.filter) << '\n';
+    PrintBookings(chosen.bookings);
+    WriteDocumentAndCheck(files.document, chosen.bookings);
+    WriteValuesAndCheck(files, chosen);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try
+    {
+        PrepareConsole();
+        Run(ParseCommandLine({ argv + 1, argv + argc }));
+        std::cout.flush();
+        if (!std::cout)
+            throw DocumentError("standard output does not take what is written");
+        return 0;
+    }
+    catch (std::exception const& error)
+    {
+        std::cerr << "DataExchange: " << error.what() << '\n';
+        return 1;
+    }
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <ostream>
+#include <stdexcept>
+#include <string>
+
+namespace Example
+{
+
+/// A file or document that cannot be read or written; what() says why, in UTF-8, ready for the console.
+class DocumentError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The file's name without its folder, in UTF-8.
+std::string NameOf(std::filesystem::path const& path);
+
+/// A file's bytes are Windows-1252, the program's text is UTF-16.
+std::wstring FromDocument(std::string const& bytes);
+
+/// Throws DocumentError for text that a file cannot hold, before anything of it is lost.
+std::string ToDocument(std::wstring const& text);
+
+/// Throws DocumentError for what is no file that can be read.
+void RequireFile(std::filesystem::path const& path);
+
+/// All bytes. Throws DocumentError otherwise.
+std::string ReadFile(std::filesystem::path const& path);
+
+/// Writes what `write` gives to the stream, and replaces the file at `path` only when all of it has arrived.
+/// Throws DocumentError otherwise; a file that was there before is untouched then.
+void ReplaceFile(std::filesystem::path const& path, std::function<void(std::ostream&)> const& write);
+
+} // namespace Example
