@@ -16,7 +16,7 @@ fi
 
 mkdir -p build/linux-release
 log=build/linux-release/build.log
-if ! { cmake --preset linux-release -DVEK_BUILD_TESTS=OFF &&
+if ! { cmake --preset linux-release -DVEK_BUILD_TESTS=OFF -DVEK_BUILD_EXAMPLES=ON &&
     cmake --build build/linux-release --target "$program"; } </dev/null >"$log" 2>&1; then
     cat "$log" >&2
     exit 1
