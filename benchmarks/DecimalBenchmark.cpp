@@ -166,7 +166,7 @@ void RegisterDoubles(std::string const& size, std::string const& contestant, std
     auto const numbers = Parse<Contestant>(texts);
     std::vector<double> doubles;
     for (std::string const& text : texts)
-        doubles.push_back(std::strtod(text.c_str(), nullptr));
+        doubles.push_back(std::strtod(text.c_str(), nullptr) / (size == "Full" ? 1e9 : 1.0)); // else it has no fraction
     Register(size + "FromDouble/" + contestant, [=](std::size_t i) { return Contestant::FromDouble(doubles[i]); });
     Register(size + "ToDouble/" + contestant, [=](std::size_t i) { return Contestant::ToDouble(numbers[i]); });
 }

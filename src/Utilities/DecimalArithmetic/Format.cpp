@@ -1,5 +1,8 @@
 #include <Utilities/DecimalArithmetic/Text.h>
 
+#include <Platform/WideBlock.h>
+#include <Utilities/DecimalArithmetic/PackedDigits.h>
+
 #include <algorithm>
 #include <bit>
 #include <cstring>
@@ -153,10 +156,40 @@ void AppendFinite(std::wstring& target, Encoding value, CodePoint const& separat
         Group(target, begin, begin + static_cast<std::size_t>(whole), grouping.GetValue());
 }
 
+/// Up to fifteen digits, at least one of them before the separator: nearly every amount. False for any other.
+bool AppendPlain(std::wstring& target, Encoding value, CodePoint const& separator)
+{
+    if (!IsSmall<c_packedBits>(value) || !separator.IsSingleCodeUnit())
+        return false;
+    std::uint64_t const digits = UnpackDigits(value.low);
+    int const count = std::max(1, (static_cast<int>(std::bit_width(digits)) + 3) / 4);
+    int const fraction = -GetSmallExponent(value);
+    if (fraction < 0 || fraction >= count)
+        return false;
+
+    // Sixteen digits of four bits, the first one on top, with a gap for the separator.
+    unsigned const fractionBits = 4U * static_cast<unsigned>(fraction);
+    std::uint64_t const upper = digits >> fractionBits << fractionBits;
+    std::uint64_t const spread = fraction == 0 ? digits : upper << 4U | (digits ^ upper);
+    int const size = fraction == 0 ? count : count + 1;
+    std::uint64_t const aligned = spread << (4U * static_cast<unsigned>(16 - size));
+
+    wchar_t text[1 + 16];
+    text[0] = L'-';
+    Platform::StoreDigits(text + 1, aligned);
+    if (fraction != 0)
+        text[1 + count - fraction] = *separator.begin();
+    bool const isNegative = IsNegative(value) && digits != 0;
+    target.append(isNegative ? text : text + 1, static_cast<std::size_t>(isNegative ? size + 1 : size));
+    return true;
+}
+
 } // namespace
 
 void AppendText(std::wstring& target, Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping)
 {
+    if (!grouping.HasValue() && AppendPlain(target, value, separator))
+        return;
     if (IsFinite(value))
         AppendFinite(target, value, separator, grouping);
     else
