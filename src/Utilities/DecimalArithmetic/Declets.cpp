@@ -86,14 +86,4 @@ constinit std::array<std::uint8_t, 1024> const c_lengthsOfDeclets = Fill<std::ar
         table[declet] = digits == 0 ? 0 : digits < 0x10 ? 1 : digits < 0x100 ? 2 : 3;
     });
 
-constinit std::array<DigitUnits, 1024> const c_textsOfDeclets =
-    Fill<std::array<DigitUnits, 1024>>(1024,
-                                       [](auto& table, unsigned declet)
-                                       {
-                                           unsigned const digits = DecodeDeclet(declet);
-                                           table[declet] = { { static_cast<wchar_t>(L'0' + (digits >> 8)),
-                                                               static_cast<wchar_t>(L'0' + (digits >> 4 & 15U)),
-                                                               static_cast<wchar_t>(L'0' + (digits & 15U)), 0 } };
-                                       });
-
 } // namespace Vek::Framework::Utilities::DecimalArithmetic

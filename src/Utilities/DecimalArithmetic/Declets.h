@@ -23,13 +23,6 @@ extern std::array<std::uint16_t, 4096> const c_decletsOfDigits;
 /// How many digits a declet has without zeros in front: 0 to 3.
 extern std::array<std::uint8_t, 1024> const c_lengthsOfDeclets;
 
-/// The digit characters of a declet; four units, so that they are stored at once.
-struct DigitUnits
-{
-    wchar_t units[4];
-};
-extern std::array<DigitUnits, 1024> const c_textsOfDeclets;
-
 constexpr unsigned c_decletMask = 0x3FF;
 
 /// The declet at `index` (0 is the lowest) of a word that holds six.

@@ -215,8 +215,6 @@ constexpr bool IsSmall(Encoding a) noexcept
     return AreSmall<Bits>(a, a);
 }
 
-constexpr std::uint64_t c_exponentField = std::uint64_t{ 0xFFF } << c_exponentShift;
-
 /// Of a small number.
 constexpr int GetSmallExponent(Encoding encoding) noexcept
 {
