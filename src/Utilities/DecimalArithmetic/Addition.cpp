@@ -93,16 +93,6 @@ void RoundToPrecision(Term& sum) noexcept
                                          : Reference::Add(a, b);
 }
 
-/// Brings the number with the greater exponent to the smaller one; false if a word has no room for that.
-bool AlignSmall(std::uint64_t& digits, int difference) noexcept
-{
-    unsigned const bits = 4U * static_cast<unsigned>(difference);
-    if (difference >= c_wordDigits || digits >> (c_wordBits - bits) != 0)
-        return false;
-    digits <<= bits;
-    return true;
-}
-
 /// A word of digits and perhaps a sixteenth one, which as a declet is itself.
 std::uint64_t PackSum(std::uint64_t digits) noexcept
 {
@@ -117,7 +107,7 @@ Encoding AddSmall(Encoding a, Encoding b) noexcept
     std::uint64_t high = a.high & ~c_signBit;
     if (int const difference = GetSmallExponent(a) - GetSmallExponent(b); difference != 0) [[unlikely]]
     {
-        if (!(difference > 0 ? AlignSmall(left, difference) : AlignSmall(right, -difference)))
+        if (!(difference > 0 ? ShiftWordLeft(left, difference) : ShiftWordLeft(right, -difference)))
             return AddLarge(a, b);
         high = difference > 0 ? b.high & ~c_signBit : high;
     }

@@ -34,7 +34,7 @@ struct Whole
     std::uint64_t magnitude;
 };
 Whole ToWhole(Encoding a) noexcept;
-Whole ToWhole(Finite value) noexcept;
+Whole ToWhole(Finite const& value) noexcept;
 
 /// Half-up, from up to 36 digits; the exponent goes unchecked.
 Finite RoundToPrecision(Finite value) noexcept;

@@ -226,12 +226,17 @@ constexpr bool IsSmallExponent(int exponent) noexcept
     return exponent >= 0x1000 - c_bias && exponent <= 0x1FFF - c_bias;
 }
 
+/// The high word of a small number.
+constexpr std::uint64_t PackSmallHead(bool isNegative, int exponent) noexcept
+{
+    std::uint64_t const biased = static_cast<std::uint64_t>(exponent + c_bias - 0x1000);
+    return c_smallPattern | biased << c_exponentShift | (isNegative ? c_signBit : std::uint64_t{ 0 });
+}
+
 /// Of a number below 10^18 with a small exponent.
 inline Encoding PackSmall(bool isNegative, int exponent, std::uint64_t coefficient) noexcept
 {
-    std::uint64_t const biased = static_cast<std::uint64_t>(exponent + c_bias - 0x1000);
-    return { PackLimb(coefficient),
-             c_smallPattern | biased << c_exponentShift | (isNegative ? c_signBit : std::uint64_t{ 0 }) };
+    return { PackLimb(coefficient), PackSmallHead(isNegative, exponent) };
 }
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic

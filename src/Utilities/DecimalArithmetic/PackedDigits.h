@@ -62,6 +62,16 @@ constexpr DigitDifference SubtractDigits(std::uint64_t a, std::uint64_t b, std::
     return { (difference - (borrowed >> 2U | borrowed >> 3U)) & c_wordMask, borrowed >> c_wordBits };
 }
 
+/// Fifteen digits; false, with nothing changed, if they have no room for `count` zeros.
+constexpr bool ShiftWordLeft(std::uint64_t& digits, int count) noexcept
+{
+    unsigned const bits = 4U * static_cast<unsigned>(count);
+    if (count >= c_wordDigits || digits >> (c_wordBits - bits) != 0)
+        return false;
+    digits <<= bits;
+    return true;
+}
+
 /// Up to 46 digits of four bits each: sums take a look-up for every declet in and out, and no division.
 struct PackedDigits
 {

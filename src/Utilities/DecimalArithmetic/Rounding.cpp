@@ -1,4 +1,5 @@
 #include <Utilities/DecimalArithmetic/Arithmetic.h>
+#include <Utilities/DecimalArithmetic/PackedDigits.h>
 
 namespace Vek::Framework::Utilities::DecimalArithmetic
 {
@@ -6,62 +7,74 @@ namespace Vek::Framework::Utilities::DecimalArithmetic
 namespace
 {
 
-bool Increments(Rounding rounding, Coefficient const& dropped, int count) noexcept
+/// What the digits that are dropped are worth.
+struct Dropped
 {
-    switch (rounding)
-    {
-    case Rounding::Up:
-        return !dropped.IsZero();
-    case Rounding::HalfUp:
-        return IsHalfOrMore(dropped, count);
-    default:
-        return false;
-    }
+    bool isAny;
+    bool isHalfOrMore;
+};
+
+bool Increments(Rounding rounding, Dropped dropped) noexcept
+{
+    return rounding == Rounding::Up ? dropped.isAny : rounding == Rounding::HalfUp && dropped.isHalfOrMore;
 }
 
-/// The coefficient at another exponent; false if that takes more than 34 digits.
-bool MoveTo(Finite& value, int exponent, Rounding rounding) noexcept
+/// Without `count` digits, at least one.
+PackedDigits Drop(PackedDigits const& value, int count, Rounding rounding) noexcept
 {
-    int const left = value.exponent - exponent;
-    value.exponent = exponent;
-    if (left > 0)
-    {
-        if (!value.coefficient.IsZero() && CountDigits(value.coefficient) + left > c_precision)
-            return false;
-        value.coefficient = ShiftLeft(value.coefficient, left);
-        return true;
-    }
-    Shifted const shifted = ShiftRight(value.coefficient, -left);
-    value.coefficient = Increments(rounding, shifted.dropped, -left) ? Add(shifted.value, { 0, 1 }) : shifted.value;
+    bool isCut = false;
+    PackedDigits const withOneMore = ShiftRight(value, count - 1, isCut);
+    unsigned const first = withOneMore.low & 0xFU;
+    PackedDigits const kept = ShiftRight(withOneMore, 1, isCut);
+    return Increments(rounding, { isCut, first >= 5 }) ? Add(kept, { 0, 0, 1 }) : kept;
+}
+
+/// Up to fifteen digits with an exponent that is greater by `count`, negative included; false where a word has no room.
+bool MoveWord(std::uint64_t& digits, int count, Rounding rounding) noexcept
+{
+    if (count <= 0)
+        return ShiftWordLeft(digits, -count);
+    if (count > c_wordDigits)
+        return false;
+    std::uint64_t const first = digits >> (4 * count - 4);
+    Dropped const dropped{ (digits & ((std::uint64_t{ 1 } << 4 * count) - 1)) != 0, (first & 0xFU) >= 5 };
+    digits = AddDigits(first >> 4U, 0, Increments(rounding, dropped) ? 1 : 0);
     return true;
 }
 
-/// The same for up to eighteen digits; false as well where that does not do.
-bool MoveSmallTo(Encoding a, int exponent, Rounding rounding, Encoding& result) noexcept
+/// False if that takes more than 34 digits.
+bool MoveDigits(PackedDigits& digits, int count, Rounding rounding) noexcept
 {
-    int const count = exponent - GetSmallExponent(a);
-    if (count < 0 || count > c_limbDigits || !IsSmallExponent(exponent))
-        return false;
-    std::uint64_t coefficient = UnpackLimb(a.low);
     if (count > 0)
+        digits = Drop(digits, count, rounding);
+    else if (!digits.IsZero())
     {
-        Division const split = DivideByPowerOfTen(coefficient, count);
-        coefficient = split.quotient + (Increments(rounding, { 0, split.remainder }, count) ? 1U : 0U);
+        if (CountDigits(digits) - count > c_precision)
+            return false;
+        digits = ShiftLeft(digits, -count);
     }
-    result = PackSmall(IsNegative(a), exponent, coefficient);
     return true;
+}
+
+[[gnu::noinline]] Encoding RescaleLarge(Encoding a, int exponent, Rounding rounding) noexcept
+{
+    if (!IsFinite(a) || !IsPlainExponent(exponent))
+        return Reference::Rescale(a, exponent, rounding);
+    PackedDigits digits = UnpackAllDigits(a);
+    return MoveDigits(digits, exponent - GetExponent(a), rounding) ? PackAllDigits(IsNegative(a), exponent, digits)
+                                                                   : Reference::Rescale(a, exponent, rounding);
 }
 
 } // namespace
 
 Encoding Rescale(Encoding a, int exponent, Rounding rounding) noexcept
 {
-    if (Encoding result; IsSmall<c_limbBits>(a) && MoveSmallTo(a, exponent, rounding, result))
-        return result;
-    if (!IsFinite(a) || !IsPlainExponent(exponent))
-        return Reference::Rescale(a, exponent, rounding);
-    Finite value = Unpack(a);
-    return MoveTo(value, exponent, rounding) ? Pack(value) : Reference::Rescale(a, exponent, rounding);
+    if (!IsSmall<c_packedBits>(a) || !IsSmallExponent(exponent))
+        return RescaleLarge(a, exponent, rounding);
+    std::uint64_t digits = UnpackDigits(a.low);
+    if (!MoveWord(digits, exponent - GetSmallExponent(a), rounding))
+        return RescaleLarge(a, exponent, rounding);
+    return { PackDigits(digits), PackSmallHead(IsNegative(a), exponent) };
 }
 
 Encoding Reduce(Encoding a) noexcept
@@ -80,12 +93,18 @@ Whole ToWhole(Encoding a) noexcept
     return IsFinite(a) ? ToWhole(Unpack(a)) : Whole{};
 }
 
-Whole ToWhole(Finite value) noexcept
+Whole ToWhole(Finite const& value) noexcept
 {
-    if (!MoveTo(value, 0, Rounding::HalfUp))
-        return {};
-    Coefficient const limit = FromUInt64(~std::uint64_t{ 0 });
-    return { value.isNegative, value.coefficient > limit, ToUInt64(value.coefficient) };
+    Coefficient whole = value.coefficient;
+    if (value.exponent <= 0)
+        whole = ShiftRightHalfUp(whole, -value.exponent);
+    else if (!whole.IsZero())
+    {
+        if (CountDigits(whole) + value.exponent > c_precision)
+            return {};
+        whole = ShiftLeft(whole, value.exponent);
+    }
+    return { value.isNegative, whole > FromUInt64(~std::uint64_t{ 0 }), ToUInt64(whole) };
 }
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic
