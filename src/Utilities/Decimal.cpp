@@ -210,7 +210,9 @@ double Decimal::ToDouble() const
 
 Decimal Decimal::FromString(std::wstring const& text, CodePoint const& separator)
 {
-    return ToDecimal(Parse(text, separator.GetAsSingleWChar()).value);
+    wchar_t const unit =
+        separator.IsSingleCodeUnit() ? *separator.begin() : separator.GetAsSingleWChar(); // which throws
+    return ToDecimal(Parse(text, unit).value);
 }
 
 std::wstring Decimal::ToString(CodePoint const& separator, Nullable<CodePoint> const& grouping) const

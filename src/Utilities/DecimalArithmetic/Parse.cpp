@@ -1,4 +1,5 @@
 #include <Utilities/DecimalArithmetic/Arithmetic.h>
+#include <Utilities/DecimalArithmetic/PackedDigits.h>
 #include <Utilities/DecimalArithmetic/Text.h>
 
 #include <Platform/WideBlock.h>
@@ -28,13 +29,17 @@ unsigned GetDigit(wchar_t unit) noexcept
 class DigitCollector
 {
 public:
-    void Add(unsigned digit) noexcept
+    /// Takes the digits from `at` on and answers what follows them.
+    wchar_t const* Take(wchar_t const* at, wchar_t const* end) noexcept
     {
-        if (m_count < c_limbDigits)
-            m_first = m_first * 10 + digit;
-        else if (m_count < 2 * c_limbDigits)
-            m_second = m_second * 10 + digit;
-        m_count += m_count != 0 || digit != 0 ? 1 : 0; // zeros in front are none
+        if (m_count == 0) // zeros in front are none
+            while (at != end && *at == L'0')
+                ++at;
+        at = Fill(m_first, c_limbDigits, at, end);
+        at = Fill(m_second, 2 * c_limbDigits, at, end);
+        for (; at != end && GetDigit(*at) <= 9; ++at)
+            ++m_count;
+        return at;
     }
 
     long long GetCount() const noexcept { return m_count; }
@@ -45,10 +50,22 @@ public:
         if (m_count <= c_limbDigits)
             return { 0, m_first };
         int const count = static_cast<int>(std::min<long long>(m_count, 2 * c_limbDigits)) - c_limbDigits;
-        return DecimalArithmetic::Add(ShiftLeft({ 0, m_first }, count), { 0, m_second });
+        return DecimalArithmetic::Add(ShiftLeft(Coefficient{ 0, m_first }, count), Coefficient{ 0, m_second });
     }
 
 private:
+    wchar_t const* Fill(std::uint64_t& limb, long long limit, wchar_t const* at, wchar_t const* end) noexcept
+    {
+        wchar_t const* const stop = at + std::clamp<std::ptrdiff_t>(limit - m_count, 0, end - at);
+        wchar_t const* const begin = at;
+        std::uint64_t value = limb;
+        for (; at != stop && GetDigit(*at) <= 9; ++at)
+            value = value * 10 + GetDigit(*at);
+        limb = value;
+        m_count += at - begin;
+        return at;
+    }
+
     std::uint64_t m_first = 0;
     std::uint64_t m_second = 0;
     long long m_count = 0;
@@ -99,19 +116,13 @@ private:
     bool ReadDigits(DigitCollector& digits, long long& exponent) noexcept
     {
         wchar_t const* const begin = m_at;
-        wchar_t const* separator = nullptr;
-        for (; m_at != m_end; ++m_at)
-        {
-            if (unsigned const digit = GetDigit(*m_at); digit <= 9)
-                digits.Add(digit);
-            else if (*m_at == m_separator && separator == nullptr)
-                separator = m_at;
-            else
-                break;
-        }
-        if (separator != nullptr)
-            exponent = separator + 1 - m_at;
-        return m_at - begin > (separator != nullptr ? 1 : 0);
+        m_at = digits.Take(m_at, m_end);
+        if (m_at == m_end || *m_at != m_separator)
+            return m_at != begin;
+        wchar_t const* const separator = m_at++;
+        m_at = digits.Take(m_at, m_end);
+        exponent = separator + 1 - m_at;
+        return m_at - begin > 1;
     }
 
     bool ReadExponent(long long& exponent) noexcept
@@ -147,12 +158,9 @@ private:
     bool ReadPayload(Encoding& value) noexcept
     {
         DigitCollector digits;
-        for (; m_at != m_end && GetDigit(*m_at) <= 9; ++m_at)
-        {
-            digits.Add(GetDigit(*m_at));
-            if (digits.GetCount() > c_payloadDigits)
-                return false;
-        }
+        m_at = digits.Take(m_at, m_end);
+        if (digits.GetCount() > c_payloadDigits)
+            return false;
         Encoding const payload = Pack({ false, -c_bias, digits.GetCoefficient() });
         value = { payload.low, value.high | payload.high };
         return true;
@@ -177,10 +185,11 @@ private:
     bool m_isNegative = false;
 };
 
-/// Up to eighteen digits with at most one separator, and a sign: nearly every text. False for any other.
+/// Up to fifteen digits with at most one separator, and a sign: nearly every text. False for any other. The digits are
+/// collected as they are packed, four bits each.
 bool ParsePlain(std::wstring_view text, wchar_t separator, Encoding& value) noexcept
 {
-    constexpr std::size_t longest = c_limbDigits + 2;
+    constexpr std::size_t longest = c_wordDigits + 2;
     wchar_t const* at = text.data();
     wchar_t const* const end = at + text.size();
     if (text.empty() || text.size() > longest)
@@ -190,22 +199,22 @@ bool ParsePlain(std::wstring_view text, wchar_t separator, Encoding& value) noex
         ++at;
 
     wchar_t const* const begin = at;
-    std::uint64_t number = 0; // wraps where there are too many digits
+    std::uint64_t packed = 0; // loses digits where there are too many
     for (; at != end && GetDigit(*at) <= 9; ++at)
-        number = number * 10 + GetDigit(*at);
+        packed = packed << 4U | GetDigit(*at);
     std::ptrdiff_t digits = at - begin;
     std::ptrdiff_t fraction = 0;
     if (at != end && *at == separator)
     {
         wchar_t const* const point = ++at;
         for (; at != end && GetDigit(*at) <= 9; ++at)
-            number = number * 10 + GetDigit(*at);
+            packed = packed << 4U | GetDigit(*at);
         fraction = at - point;
         digits += fraction;
     }
-    if (at != end || digits == 0 || digits > c_limbDigits)
+    if (at != end || digits == 0 || digits > c_wordDigits)
         return false;
-    value = PackSmall(isNegative, -static_cast<int>(fraction), number);
+    value = { PackDigits(packed), PackSmallHead(isNegative, -static_cast<int>(fraction)) };
     return true;
 }
 
