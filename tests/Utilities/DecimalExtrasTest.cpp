@@ -1,0 +1,238 @@
+// What stands around Decimal: classes, strict reading, streams, hash, literals, amounts.
+
+#include <Exceptions/ArgumentException.h>
+#include <Exceptions/InvalidStateException.h>
+#include <Utilities/AmountText.h>
+#include <Utilities/DecimalClassification.h>
+#include <Utilities/DecimalHash.h>
+#include <Utilities/DecimalLiterals.h>
+#include <Utilities/DecimalParsing.h>
+#include <Utilities/DecimalStreams.h>
+
+#include <gtest/gtest.h>
+
+#include <iomanip>
+#include <sstream>
+#include <unordered_map>
+
+#include "RandomDecimal.h"
+
+namespace Tests
+{
+
+namespace
+{
+
+using namespace Vek::Framework::Utilities;
+
+std::wstring ToText(Decimal const& value)
+{
+    return value.ToString(L'.', {});
+}
+
+TEST(DecimalExtras, EveryValueIsInOneClass)
+{
+    struct Row
+    {
+        wchar_t const* text;
+        bool isNaN;
+        bool isInfinite;
+    };
+    for (Row const& row : { Row{ L"0", false, false }, Row{ L"-1e6144", false, false }, Row{ L"inf", false, true },
+                            Row{ L"-inf", false, true }, Row{ L"nan7", true, false }, Row{ L"-snan", true, false } })
+    {
+        Decimal const value = Decimal::FromString(row.text, L'.');
+        EXPECT_EQ(IsNaN(value), row.isNaN);
+        EXPECT_EQ(IsInfinite(value), row.isInfinite);
+        EXPECT_EQ(IsFinite(value), !row.isNaN && !row.isInfinite);
+    }
+}
+
+TEST(DecimalExtras, TryFromStringNamesTheFirstBadUnit)
+{
+    struct Row
+    {
+        wchar_t const* text;
+        bool isRead;
+        std::size_t position;
+        char const* why;
+    };
+    Row const rows[] = {
+        { L"-12,50", true, 6, "all of it" },
+        { L"nan", true, 3, "a NaN that was meant" },
+        { L"", false, 0, "nothing there" },
+        { L"12.50", false, 2, "another separator" },
+        { L"1,2,3", false, 3, "two of them" },
+        { L" 1", false, 0, "a blank" },
+        { L"1e", false, 2, "cut off" },
+        { L"1e+x", false, 3, "no exponent" },
+        { L"infinite", false, 3, "inf and more" },
+        { L"-", false, 1, "a sign alone" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        Decimal value = 7;
+        std::size_t position = 99;
+        EXPECT_EQ(TryFromString(row.text, L',', value, position), row.isRead);
+        EXPECT_EQ(position, row.position);
+        EXPECT_EQ(ToText(value), row.isRead ? ToText(Decimal::FromString(row.text, L',')) : L"7");
+    }
+    Decimal value;
+    std::size_t position = 0;
+    EXPECT_THROW(TryFromString(L"1", CodePoint(L"\xD83D\xDE00"), value, position), Vek::InvalidStateException);
+}
+
+TEST(DecimalExtras, StreamsPadTheTextAndKnowNoLocale)
+{
+    struct Comma : std::numpunct<char>
+    {
+        char do_decimal_point() const override { return ','; }
+    };
+    std::ostringstream narrow;
+    narrow.imbue(std::locale(std::locale::classic(), new Comma));
+    narrow << std::setfill('*') << std::setw(8) << Decimal(-1250, -2) << '|' << std::left << std::setw(5)
+           << Decimal(3, 2) << '|' << Decimal(0) / 0;
+    EXPECT_EQ(narrow.str(), "**-12.50|300**|NaN");
+    std::wostringstream wide;
+    wide << std::setw(6) << Decimal(5, -2);
+    EXPECT_EQ(wide.str(), L"  0.05");
+}
+
+TEST(DecimalExtras, EqualNumbersHashAlike)
+{
+    RandomDecimal random(31);
+    std::hash<Decimal> const hash;
+    for (int i = 0; i < 20'000; ++i)
+    {
+        Decimal const value = random.Next();
+        if (!IsFinite(value))
+            continue;
+        Decimal const other = value.Round(static_cast<int>(random.Below(40)), RoundMode::TowardZero, true);
+        Decimal const more = value * Decimal(10, -1); // one more zero at the end, where there is room
+        for (Decimal const& equal : { other, more })
+            if (!IsNaN(equal) && equal == value)
+            {
+                ASSERT_EQ(hash(equal), hash(value)) << i;
+            }
+    }
+    EXPECT_EQ(hash(Decimal(0)), hash(-1 * Decimal(0)));
+    EXPECT_EQ(hash(Decimal(0)), hash(Decimal(0, 5)));
+    EXPECT_EQ(hash(Decimal(1) / 0), hash(Decimal::FromString(L"inf", L'.')));
+    std::unordered_map<std::size_t, int> prices; // cents and their negatives are all different
+    for (int cents = 1; cents <= 100'000; ++cents)
+        prices[hash(Decimal(cents, -2))] += prices[hash(Decimal(-cents, -2))] += 1;
+    EXPECT_EQ(prices.size(), 200'000U);
+}
+
+TEST(DecimalExtras, LiteralsAreTheirDigits)
+{
+    struct Row
+    {
+        Decimal value;
+        wchar_t const* text;
+    };
+    Row const rows[] = {
+        { 12.50_dec, L"12.50" },
+        { -0.05_dec, L"-0.05" },
+        { 1'234'567.5_dec, L"1234567.5" },
+        { 0_dec, L"0" },
+        { .5_dec, L"0.5" },
+        { 12e3_dec, L"12e3" },
+        { 1.5E-3_dec, L"0.0015" },
+        { 1234567890123456789.012345678901234_dec, L"1234567890123456789.012345678901234" },
+        { 9'999'999'999'999'999'999'999'999'999'999'999_dec, L"9999999999999999999999999999999999" },
+        { 1e6144_dec, L"1e6144" },
+        { 1e-6176_dec, L"1e-6176" },
+    };
+    for (Row const& row : rows)
+    {
+        Decimal const expected = Decimal::FromString(row.text, L'.');
+        EXPECT_EQ(std::memcmp(&row.value, &expected, sizeof(expected)), 0) << ToText(row.value).c_str();
+    }
+    for (char const* text : { "0x1F", "0b1", "017", "1e6145", "1e-6177", "12345678901234567890123456789012345" })
+        EXPECT_FALSE(DecimalLiteral::Read(text).isValid) << text;
+}
+
+std::wstring Mark(std::wstring text, unsigned unit)
+{
+    std::replace(text.begin(), text.end(), L'_', static_cast<wchar_t>(unit));
+    return text;
+}
+
+TEST(DecimalExtras, AmountsAreWrittenWithCommaAndGroups)
+{
+    Decimal const amount = 1234567.505_dec;
+    EXPECT_EQ(FormatAmount(amount), L"1.234.567,51");
+    EXPECT_EQ(FormatAmount(-amount, AmountGrouping::NoBreakSpace), Mark(L"-1_234_567,51", 0xA0));
+    EXPECT_EQ(FormatAmount(amount, AmountGrouping::NarrowNoBreakSpace, 4), Mark(L"1_234_567,5050", 0x202F));
+    EXPECT_EQ(FormatAmount(amount, AmountGrouping::None, 0), L"1234568");
+    EXPECT_EQ(FormatAmount(-0.004_dec), L"0,00");
+    EXPECT_THROW(FormatAmount(Decimal(1) / 0), Vek::ArgumentException);
+    EXPECT_THROW(FormatAmount(1e33_dec), Vek::ArgumentException);
+    EXPECT_THROW(FormatAmount(amount, AmountGrouping::None, -1), Vek::ArgumentException);
+}
+
+TEST(DecimalExtras, AmountsAreReadStrictly)
+{
+    std::wstring const longest(34, L'9');
+    struct Row
+    {
+        std::wstring text;
+        AmountError error;
+        std::size_t position;
+    };
+    Row const rows[] = {
+        { L"", AmountError::MissingDigit, 0 },
+        { L"-", AmountError::MissingDigit, 1 },
+        { L"12,", AmountError::MissingDigit, 3 },
+        { L"abc", AmountError::WrongUnit, 0 },
+        { L",50", AmountError::WrongUnit, 0 },
+        { L"--1", AmountError::WrongUnit, 1 },
+        { L"1,2,3", AmountError::WrongUnit, 3 },
+        { L"12,50 ", AmountError::WrongUnit, 5 },
+        { L"1,234.5", AmountError::WrongUnit, 5 },
+        { L"1 234,50", AmountError::WrongUnit, 1 },
+        { L"12.50", AmountError::WrongGroup, 2 },
+        { L"1.23.456", AmountError::WrongGroup, 1 },
+        { L"1.2345,00", AmountError::WrongGroup, 1 },
+        { L"1234.567,00", AmountError::WrongGroup, 4 },
+        { L"0.123,45", AmountError::WrongGroup, 1 },
+        { L"1.,5", AmountError::WrongGroup, 1 },
+        { Mark(L"1.234_567,00", 0xA0), AmountError::MixedGrouping, 5 },
+        { L"1.234", AmountError::MissingComma, 5 },
+        { L"00" + longest + L",1", AmountError::TooManyDigits, 37 },
+        { longest + L"9,x", AmountError::TooManyDigits, 34 },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(std::string(row.text.begin(), row.text.end()).c_str());
+        Decimal amount = 7;
+        AmountFault fault;
+        EXPECT_FALSE(TryParseAmount(row.text, amount, fault));
+        EXPECT_EQ(fault.error, row.error);
+        EXPECT_EQ(fault.position, row.position);
+        EXPECT_TRUE(amount == 7);
+    }
+}
+
+TEST(DecimalExtras, WrittenAmountsAreReadBack)
+{
+    RandomDecimal random(7);
+    for (int i = 0; i < 20'000; ++i)
+    {
+        int const digits = 1 + static_cast<int>(random.Below(6));
+        Decimal const amount = random.Next().Round(digits, RoundMode::HalfAwayFromZero, true);
+        if (!IsFinite(amount))
+            continue;
+        std::wstring const text = FormatAmount(amount, static_cast<AmountGrouping>(random.Below(4)), digits);
+        Decimal read;
+        AmountFault fault;
+        ASSERT_TRUE(TryParseAmount(text, read, fault)) << fault.position << ": " << ToText(amount).c_str();
+        ASSERT_EQ(ToText(read), ToText(amount));
+    }
+}
+
+} // namespace
+
+} // namespace Tests
