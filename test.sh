@@ -69,7 +69,7 @@ test_target()
     fi
 }
 
-packages=(g++ cmake ninja-build gdb-source googletest clang-format-14 gnucash-common python3 pkg-config binutils gzip
+packages=(g++ cmake ninja-build gdb gdb-source googletest clang-format-14 gnucash-common python3 pkg-config binutils gzip
     locales unicode-data yudit-doc)
 [ ${#targets[@]} -eq 1 ] || packages+=(g++-mingw-w64-x86-64-posix wine wine64)
 if ! require_packages "${packages[@]}" ||

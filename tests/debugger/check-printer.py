@@ -1,0 +1,35 @@
+"""Stops the program and compares what GDB shows with the texts beside the values. Run by GDB itself."""
+
+import gdb
+
+
+def check():
+    failures = []
+    checked = 0
+
+    def expect(shown, expected):
+        nonlocal checked
+        checked += 1
+        if shown != expected:
+            failures.append("shown as %s instead of %s" % (shown, expected))
+
+    gdb.execute("break StopHere", to_string=True)
+    gdb.execute("run", to_string=True)
+    samples, numbers = (gdb.selected_frame().read_var(name) for name in ("samples", "numbers"))
+    for i in range(int(gdb.selected_frame().read_var("size"))):
+        expect(samples[i]["value"].format_string(), samples[i]["text"].string())
+    for i in range(1000):
+        expect(numbers[i].format_string(), str(i))
+    for failure in failures:
+        print(failure)
+    print("%d values, %d wrong" % (checked, len(failures)))
+    return 0 if checked > 1000 and not failures else 1
+
+
+try:
+    status = check()
+except Exception as error:
+    print("could not be checked: %s" % error)
+    status = 1
+gdb.execute("kill") if gdb.selected_inferior().pid else None
+gdb.execute("quit %d" % status)
