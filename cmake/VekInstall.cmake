@@ -23,6 +23,6 @@ file(RELATIVE_PATH VEK_PC_PREFIX /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 string(REGEX REPLACE "/$" "" VEK_PC_PREFIX "\${pcfiledir}/${VEK_PC_PREFIX}")
 configure_file(cmake/FrameworkUtilities.pc.in FrameworkUtilities.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/FrameworkUtilities.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-install(FILES tools/debugger/FrameworkUtilities-gdb.py
+install(FILES tools/debugger/FrameworkUtilities-gdb.py tools/debugger/FrameworkUtilities.natvis
     DESTINATION ${CMAKE_INSTALL_DATADIR}/FrameworkUtilities)
 install(FILES LICENSE THIRD-PARTY-NOTICES.md ${VEK_DECNUMBER_LICENCE} DESTINATION ${CMAKE_INSTALL_DOCDIR})

@@ -4,6 +4,7 @@
 #include <Exceptions/InvalidStateException.h>
 #include <Utilities/AmountText.h>
 #include <Utilities/DecimalClassification.h>
+#include <Utilities/DecimalFormat.h>
 #include <Utilities/DecimalHash.h>
 #include <Utilities/DecimalLiterals.h>
 #include <Utilities/DecimalParsing.h>
@@ -98,6 +99,14 @@ TEST(DecimalExtras, StreamsPadTheTextAndKnowNoLocale)
     wide << std::setw(6) << Decimal(5, -2);
     EXPECT_EQ(wide.str(), L"  0.05");
 }
+
+#if defined(__cpp_lib_format)
+TEST(DecimalExtras, FormatsAsAText)
+{
+    EXPECT_EQ(std::format("{:>8}|{:*<7}|{}", 12.50_dec, -1_dec, 3e2_dec), "   12.50|-1*****|300");
+    EXPECT_EQ(std::format(L"{:^9}", 12.50_dec), L"  12.50  ");
+}
+#endif
 
 TEST(DecimalExtras, EqualNumbersHashAlike)
 {
