@@ -2,8 +2,6 @@
 
 #include <Utilities/WStringHelper.h>
 
-#include <fstream>
-
 using namespace Vek::Framework::IXMLStreamer::Native;
 using Vek::Framework::Utilities::WStringHelper;
 
@@ -37,11 +35,7 @@ std::string Explain(std::filesystem::path const& path, XMLStreamer const& reader
 
 void ReadDocument(XMLStreamer& reader, std::filesystem::path const& path)
 {
-    RequireFile(path);
-    std::ifstream stream(path, std::ios::binary); // text mode would end at the first byte 26 on Windows
-    if (!stream)
-        throw DocumentError(NameOf(path) + " cannot be opened");
-
+    std::ifstream stream = OpenFile(path);
     bool const isComplete = reader.ProcessSource(stream);
     if (stream.bad())
         throw DocumentError(NameOf(path) + " cannot be read");

@@ -3,7 +3,6 @@
 #include <Utilities/StreamHelper.h>
 #include <Utilities/WStringHelper.h>
 
-#include <fstream>
 #include <system_error>
 
 using namespace Vek::Framework::Utilities;
@@ -73,20 +72,21 @@ std::string ToDocument(std::wstring const& text)
     return bytes;
 }
 
-void RequireFile(std::filesystem::path const& path)
+std::ifstream OpenFile(std::filesystem::path const& path)
 {
     // Linux opens a directory like a file and fails only when it is read, so ask first.
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
         throw DocumentError(NameOf(path) + " does not exist or is not a file");
+    std::ifstream stream(path, std::ios::binary); // text mode would end at the first byte 26 on Windows
+    if (!stream)
+        throw DocumentError(NameOf(path) + " cannot be opened");
+    return stream;
 }
 
 std::string ReadFile(std::filesystem::path const& path)
 {
-    RequireFile(path);
-    std::ifstream stream(path, std::ios::binary); // text mode would end at the first byte 26 on Windows
-    if (!stream)
-        throw DocumentError(NameOf(path) + " cannot be opened");
+    std::ifstream stream = OpenFile(path);
     auto const bytes = StreamHelper::ReadAllBytes(stream);
     if (stream.bad())
         throw DocumentError(NameOf(path) + " cannot be read");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <ostream>
 #include <stdexcept>
@@ -25,8 +26,8 @@ std::wstring FromDocument(std::string const& bytes);
 /// Throws DocumentError for text that a file cannot hold, before anything of it is lost.
 std::string ToDocument(std::wstring const& text);
 
-/// Throws DocumentError for what is no file that can be read.
-void RequireFile(std::filesystem::path const& path);
+/// Opens a file for reading its bytes as they are. Throws DocumentError when that cannot be.
+std::ifstream OpenFile(std::filesystem::path const& path);
 
 /// All bytes. Throws DocumentError otherwise.
 std::string ReadFile(std::filesystem::path const& path);

@@ -1,0 +1,123 @@
+// The same figures twice: as a table for people, as a document for programs.
+
+#include "Console.h"
+#include "Document.h"
+#include "Summary.h"
+
+#include <algorithm>
+#include <tuple>
+#include <vector>
+
+using namespace Vek::Framework::IXMLStreamer::Native;
+using namespace Vek::Framework::Utilities;
+
+namespace Example
+{
+
+namespace
+{
+
+using Emitter = XMLWriter::AttributeEmitter;
+
+void NoAttributes(Emitter const&)
+{
+}
+
+// A sum of no line is 0 without fraction digits; as cents it has two.
+Decimal InCents(Decimal const& amount)
+{
+    return amount.Round(2, RoundMode::HalfAwayFromZero, true);
+}
+
+std::wstring Grouped(Decimal const& number)
+{
+    return number.ToString(L',', CodePoint(L'.'));
+}
+
+using Row = std::array<std::wstring, 5>;
+
+Row MakeRow(std::wstring const& title, Total const& total)
+{
+    return { title, Grouped(total.lines), Grouped(InCents(total.net)), Grouped(InCents(total.tax)),
+             Grouped(InCents(total.GetGross())) };
+}
+
+std::wstring RightAligned(std::wstring const& text, std::size_t width)
+{
+    return std::wstring(width - text.size(), L' ') + text;
+}
+
+// All columns but that of the titles stand to the right, each as wide as it needs.
+void PrintTable(std::vector<Row> const& rows)
+{
+    std::array<std::size_t, std::tuple_size_v<Row>> widths{};
+    for (Row const& row : rows)
+        for (std::size_t column = 0; column < row.size(); ++column)
+            widths[column] = std::max(widths[column], row[column].size());
+    for (Row const& row : rows)
+    {
+        std::wstring line = row[0] + std::wstring(widths[0] - row[0].size(), L' ');
+        for (std::size_t column = 1; column < row.size(); ++column)
+            line += L"  " + RightAligned(row[column], widths[column]);
+        PrintLine(line);
+    }
+}
+
+void WriteAmount(XMLWriter& writer, char const* name, Decimal const& amount)
+{
+    writer.WriteContentValue(name, ToDocument(InCents(amount).ToString(L'.', {})), NoAttributes);
+}
+
+void WriteTotal(XMLWriter& writer, char const* name, Total const& total, XMLWriter::AttributeWriter const& attributes)
+{
+    writer.WriteBeginStructure(name, attributes);
+    WriteAmount(writer, "net", total.net);
+    WriteAmount(writer, "tax", total.tax);
+    WriteAmount(writer, "gross", total.GetGross());
+    writer.WriteEndStructure();
+}
+
+void WriteTaxRate(XMLWriter& writer, int percent, Total const& total)
+{
+    auto const writeAttributes = [&](Emitter const& emit)
+    {
+        emit("percent", std::to_string(percent));
+        emit("lines", std::to_string(total.lines));
+    };
+    WriteTotal(writer, "taxRate", total, writeAttributes);
+}
+
+void WriteContent(XMLWriter& writer, Summary const& summary)
+{
+    Total const grandTotal = summary.GetGrandTotal();
+    auto const writeAttributes = [&](Emitter const& emit)
+    {
+        emit("lines", std::to_string(grandTotal.lines));
+        emit("skipped", std::to_string(summary.GetSkipped()));
+    };
+    writer.WriteBeginStructure("invoiceSummary", writeAttributes);
+    for (std::size_t rate = 0; rate < c_taxRates.size(); ++rate)
+        WriteTaxRate(writer, c_taxRates[rate], summary.GetTotal(rate));
+    WriteTotal(writer, "total", grandTotal, NoAttributes);
+    writer.WriteEndStructure();
+}
+
+} // namespace
+
+void PrintSummary(Summary const& summary)
+{
+    std::vector<Row> rows = { { L"Steuersatz", L"Zeilen", L"Netto", L"USt", L"Brutto" } };
+    for (std::size_t rate = 0; rate < c_taxRates.size(); ++rate)
+        rows.push_back(MakeRow(std::to_wstring(c_taxRates[rate]) + L" %", summary.GetTotal(rate)));
+    rows.push_back(MakeRow(L"Summe", summary.GetGrandTotal()));
+    PrintTable(rows);
+    if (summary.GetSkipped() > 0)
+        PrintLine(L"\u00dcbersprungene Zeilen: " + Grouped(summary.GetSkipped()));
+}
+
+void WriteSummary(std::filesystem::path const& path, Summary const& summary)
+{
+    WriteDocument(path, [&summary](XMLWriter& writer) { WriteContent(writer, summary); });
+}
+
+} // namespace Example
