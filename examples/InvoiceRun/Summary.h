@@ -7,12 +7,12 @@
 namespace Example
 {
 
-/// The sum of some lines, in whole cents.
+/// The sum of some lines, in whole cents: amounts always have two fraction digits, also the sum of no line.
 struct Total
 {
     long long lines = 0;
-    Vek::Framework::Utilities::Decimal net;
-    Vek::Framework::Utilities::Decimal tax;
+    Vek::Framework::Utilities::Decimal net{ 0, -2 };
+    Vek::Framework::Utilities::Decimal tax{ 0, -2 };
 
     Vek::Framework::Utilities::Decimal GetGross() const { return net + tax; }
     Total& operator+=(Total const& other);

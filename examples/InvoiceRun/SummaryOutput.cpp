@@ -23,12 +23,6 @@ void NoAttributes(Emitter const&)
 {
 }
 
-// A sum of no line is 0 without fraction digits; as cents it has two.
-Decimal InCents(Decimal const& amount)
-{
-    return amount.Round(2, RoundMode::HalfAwayFromZero, true);
-}
-
 std::wstring Grouped(Decimal const& number)
 {
     return number.ToString(L',', CodePoint(L'.'));
@@ -38,8 +32,7 @@ using Row = std::array<std::wstring, 5>;
 
 Row MakeRow(std::wstring const& title, Total const& total)
 {
-    return { title, Grouped(total.lines), Grouped(InCents(total.net)), Grouped(InCents(total.tax)),
-             Grouped(InCents(total.GetGross())) };
+    return { title, Grouped(total.lines), Grouped(total.net), Grouped(total.tax), Grouped(total.GetGross()) };
 }
 
 std::wstring RightAligned(std::wstring const& text, std::size_t width)
@@ -65,7 +58,7 @@ void PrintTable(std::vector<Row> const& rows)
 
 void WriteAmount(XMLWriter& writer, char const* name, Decimal const& amount)
 {
-    writer.WriteContentValue(name, ToDocument(InCents(amount).ToString(L'.', {})), NoAttributes);
+    writer.WriteContentValue(name, ToDocument(amount.ToString(L'.', {})), NoAttributes);
 }
 
 void WriteTotal(XMLWriter& writer, char const* name, Total const& total, XMLWriter::AttributeWriter const& attributes)
