@@ -92,7 +92,7 @@ public:
 private:
     bool Read(Encoding& value) noexcept
     {
-        if (m_at != m_end && (*m_at == L'-' || *m_at == L'+') && *m_at != m_separator)
+        if (m_at != m_end && (*m_at == L'-' || *m_at == L'+')) // a sign even where it is the separator as well
             m_isNegative = *m_at++ == L'-';
         if (m_at == m_end)
             return false;
