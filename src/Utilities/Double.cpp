@@ -66,7 +66,7 @@ unsigned long long Double::GetHashValue(double x) noexcept
     // One unit in the last place below 0.0001: so 0.00005 is above one half and rounds up.
     constexpr double tenThousandth = 0x1.a36e2eb1c432cp-14;
     double const whole = std::round(x / tenThousandth);
-    return whole >= c_twoTo63 ? ConvertSigned(whole - c_twoTo63) ^ c_topBit : ConvertSigned(whole);
+    return whole >= c_twoTo63 ? ConvertSigned(whole - c_twoTo63) | c_topBit : ConvertSigned(whole);
 }
 
 } // namespace Vek::Framework::Utilities

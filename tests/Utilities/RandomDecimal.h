@@ -33,6 +33,7 @@ public:
         return sign + NextDigits(NextLength()) + "E" + std::to_string(NextExponent());
     }
 
+    std::uint64_t NextWord() { return m_engine(); }
     unsigned Below(unsigned limit) { return static_cast<unsigned>(m_engine() % limit); }
 
 private:

@@ -1,0 +1,177 @@
+// The texts of Decimal, in both directions.
+
+#include <Utilities/Decimal.h>
+
+#include <Exceptions/InvalidStateException.h>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "RandomDecimal.h"
+
+namespace Tests
+{
+
+namespace
+{
+
+using Vek::Framework::Utilities::CodePoint;
+using Vek::Framework::Utilities::Decimal;
+using Vek::Framework::Utilities::Nullable;
+
+/// The digits and as many zeros as the exponent asks for, written one by one.
+std::wstring WritePlainly(Decimal const& value)
+{
+    decNumber const number = Plain::Decode(value);
+    std::vector<std::uint8_t> bcd(static_cast<std::size_t>(number.digits));
+    decNumberGetBCD(&number, bcd.data());
+    std::wstring digits;
+    for (std::uint8_t const digit : bcd)
+        digits += static_cast<wchar_t>(L'0' + digit);
+    if (number.exponent > 0)
+        digits.append(static_cast<std::size_t>(number.exponent), L'0');
+    std::size_t const fraction = static_cast<std::size_t>(std::max(0, -number.exponent));
+    if (digits.size() <= fraction)
+        digits.insert(0, fraction + 1 - digits.size(), L'0');
+    std::wstring text = decNumberIsNegative(&number) && !decNumberIsZero(&number) ? L"-" : L"";
+    for (std::size_t left = digits.size(); wchar_t const digit : digits)
+    {
+        text += digit;
+        --left;
+        if (left > fraction && (left - fraction) % 3 == 0)
+            text += L'.';
+        else if (left == fraction && fraction > 0)
+            text += L',';
+    }
+    return text;
+}
+
+} // namespace
+
+TEST(DecimalText, FromString)
+{
+    using namespace std::string_literals;
+    std::string const digits33(33, '7');
+    std::wstring const wideDigits33(33, L'7');
+    struct Row
+    {
+        std::wstring text;
+        std::string value;
+        char const* why;
+    };
+    Row const rows[] = {
+        { L"1,5", "1.5", "the separator" },
+        { L"1.5", "NaN", "a full stop is another character" },
+        { L"+,50", "0.50", "nothing before it" },
+        { L"-5,", "-5", "nothing behind it" },
+        { L"1,2,3", "NaN", "only one" },
+        { L",", "NaN", "no digit" },
+        { L"1.234,5", "NaN", "grouping" },
+        { L"", "NaN", "nothing" },
+        { L" 1", "NaN", "a blank before" },
+        { L"1 ", "NaN", "a blank behind" },
+        { L"1\0"s, "NaN", "a zero unit behind" },
+        { L"-+1", "NaN", "two signs" },
+        { L"\x0661\xFF11", "NaN", "other scripts' digits" },
+        { L"1,5e-3", "0.0015", "an exponent" },
+        { L"1e", "NaN", "that has no digits" },
+        { L"1e1,5", "NaN", "that is no whole number" },
+        { L"e5", "NaN", "nothing but an exponent" },
+        { L"1e99999999999999999999", "Infinity", "longer than any integer" },
+        { L"-1e-99999999999999999999", "-0E-6176", "longer than any integer" },
+        { L"0,0001e00000000000000000003", "0.1", "zeros before it" },
+        { L"-iNf", "-Infinity", "short" },
+        { L"INFINITY", "Infinity", "long" },
+        { L"infinit", "NaN", "neither" },
+        { L"\x0131nf", "NaN", "an i without its dot" },
+        { L"-SNaN012", "-sNaN12", "payload" },
+        { L"nan" + wideDigits33, "NaN" + digits33, "the longest payload" },
+        { L"nan7" + wideDigits33, "NaN", "longer than that" },
+        { L"nan1,2", "NaN", "no payload" },
+        { L"9999999999999999999999999999999999,5", "1.000000000000000000000000000000000E+34", "a carry through all" },
+        { L"1000000000000000000000000000000000,4999", "1000000000000000000000000000000000", "one digit decides" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        EXPECT_EQ(Plain::Print(Decimal::FromString(row.text, L',')), row.value);
+    }
+    EXPECT_EQ(Plain::Print(Decimal::FromString(L"1\xDE00"
+                                               L"5",
+                                               L'\xDE00')),
+              "1.5");
+    EXPECT_THROW(Decimal::FromString(L"1", CodePoint(L'\xD83D', L'\xDE00')), Vek::InvalidStateException);
+}
+
+TEST(DecimalText, FromStringOfAMillionDigits)
+{
+    std::wstring const zeros(1'000'000, L'0');
+    EXPECT_EQ(Plain::Print(Decimal::FromString(zeros + L"15," + zeros + L"1", L',')),
+              "15.00000000000000000000000000000000");
+    EXPECT_EQ(Plain::Print(Decimal::FromString(L"0," + zeros + L"25E+1000000", L',')), "0.25");
+    EXPECT_EQ(Plain::Print(Decimal::FromString(L"25" + zeros + L"E-" + zeros + L"1000001", L',')),
+              "2.500000000000000000000000000000000");
+    EXPECT_EQ(Plain::Print(Decimal::FromString(zeros + L"x", L',')), "NaN");
+}
+
+TEST(DecimalText, ToString)
+{
+    CodePoint const pair(L'\xD83D', L'\xDE00');
+    struct Row
+    {
+        char const* value;
+        CodePoint separator;
+        Nullable<CodePoint> grouping;
+        wchar_t const* text;
+        char const* why;
+    };
+    Row const rows[] = {
+        { "0E+2", L',', {}, L"000", "as many zeros as the exponent asks for" },
+        { "-0.00", L',', {}, L"0,00", "a zero has no sign" },
+        { "-Infinity", L',', CodePoint(L'.'), L"-Infinity", "words are not grouped" },
+        { "-NaN1234567", L',', CodePoint(L'.'), L"-NaN1234567", "nor are payloads" },
+        { "-sNaN", L',', {}, L"-sNaN", "no payload" },
+        { "1234.5", pair, CodePoint(L'\x00A0'),
+          L"1\x00A0"
+          L"234\xD83D\xDE00"
+          L"5",
+          "a pair as separator" },
+        { "1E+6", L'.', pair,
+          L"1\xD83D\xDE00"
+          L"000\xD83D\xDE00"
+          L"000",
+          "a pair between zeros" },
+        { "1234.5", L',', CodePoint(L','), L"1,234,5", "the same for both" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        EXPECT_EQ(Plain::Scan(row.value).ToString(row.separator, row.grouping), row.text);
+        std::wstring target = L"x";
+        Plain::Scan(row.value).AppendToString(target, row.separator, row.grouping);
+        EXPECT_EQ(target, std::wstring(L"x") + row.text);
+    }
+}
+
+TEST(DecimalText, ToStringAndBack)
+{
+    RandomDecimal random(40);
+    for (unsigned i = 0; i < GetDifferentialCases() / 100; ++i)
+    {
+        Decimal const value = random.Next();
+        SCOPED_TRACE(Plain::Print(value));
+        decNumber const number = Plain::Decode(value);
+        std::wstring const text = value.ToString(L',', {});
+        Decimal const back = Decimal::FromString(text, L',');
+        ASSERT_EQ(back.CompareTo(value), 0);
+        ASSERT_TRUE(decNumberIsZero(&number) || back.ToString(L',', {}) == text);
+        bool const isWritten = number.exponent <= 0 && !(decNumberIsZero(&number) && decNumberIsNegative(&number));
+        ASSERT_TRUE(!isWritten || Plain::HasSameBits(back, value));
+        if (decNumberIsSpecial(&number))
+            continue;
+        ASSERT_EQ(value.ToString(L',', CodePoint(L'.')), WritePlainly(value));
+    }
+}
+
+} // namespace Tests

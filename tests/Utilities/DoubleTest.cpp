@@ -1,0 +1,73 @@
+#include <Utilities/Double.h>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace Tests
+{
+
+using Vek::Framework::Utilities::Double;
+
+TEST(Double, Comparisons)
+{
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    struct Row
+    {
+        double a;
+        double b;
+        char const* answers; // the comparisons that are true
+        char const* why;
+    };
+    Row const rows[] = {
+        { 1.0, 1.0000009, "= >= <=", "within the tolerance" },
+        { 1.000001, 1.0, "= >= <=", "a difference that comes out just below it" },
+        { 1.000002, 1.0, "> >=", "greater" },
+        { 1.0, 1.000002, "< <=", "smaller" },
+        { 1e-6, 0.0, "> >=", "the tolerance itself" },
+        { 0.0, 1e-6, "< <=", "and below zero" },
+        { infinity, infinity, "= >= <=", "though their difference is none" },
+        { infinity, -infinity, "> >=", "far apart" },
+        { std::numeric_limits<double>::quiet_NaN(), 1.0, "< <=", "the contrary of a comparison" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        std::string answers;
+        answers += Double::Equals(row.a, row.b) ? "= " : "";
+        answers += Double::IsGreater(row.a, row.b) ? "> " : "";
+        answers += Double::IsGreaterOrEqual(row.a, row.b) ? ">= " : "";
+        answers += Double::IsSmaller(row.a, row.b) ? "< " : "";
+        answers += Double::IsSmallerOrEqual(row.a, row.b) ? "<= " : "";
+        EXPECT_EQ(answers, std::string(row.answers) + ' ');
+    }
+    EXPECT_TRUE(Double::IsZero(-0.0) && Double::IsZero(-9.99e-7) && !Double::IsZero(-1e-6));
+    EXPECT_TRUE(Double::IsInfinite(-infinity) && !Double::IsInfinite(std::numeric_limits<double>::max()));
+    EXPECT_EQ(Double::MinmalSignificant(), 2e-6);
+}
+
+TEST(Double, GetHashValue)
+{
+    struct Row
+    {
+        double value;
+        unsigned long long hash;
+        char const* why;
+    };
+    Row const rows[] = {
+        { 0.00005, 1, "half a ten-thousandth, rounded away from zero" },
+        { 0.00004, 0, "less" },
+        { -0.0001, 18446744073709551615U, "negative ones wrap" },
+        { 922337203685477.0, 9223372036854770688U, "below 2^63" },
+        { 1e15, 10000000000000000000U, "above 2^63" },
+        { 1e16, 9223372036854775808U, "no longer an unsigned number" },
+        { -1e16, 9223372036854775808U, "no longer a signed one" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        EXPECT_EQ(Double::GetHashValue(row.value), row.hash);
+    }
+}
+
+} // namespace Tests

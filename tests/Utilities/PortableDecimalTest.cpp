@@ -1,0 +1,84 @@
+#include <Utilities/PortableDecimal.h>
+
+#include <gtest/gtest.h>
+
+#include <climits>
+
+#include "RandomDecimal.h"
+
+namespace Tests
+{
+
+using Vek::Framework::Utilities::Decimal;
+using Vek::Framework::Utilities::PortableDecimal;
+
+TEST(PortableDecimal, ToDecimal)
+{
+    struct Row
+    {
+        PortableDecimal value;
+        char const* text;
+        char const* why;
+    };
+    Row const rows[] = {
+        { { 5, 0, 1, -2, true }, "-184467440737095516.21", "2^64 + 5" },
+        { { UINT_MAX, UINT_MAX, UINT_MAX, 0, false }, "79228162514264337593543950335", "the greatest coefficient" },
+        { { 0, 0, 0, -3, true }, "-0.000", "a zero keeps all" },
+        { { 1, 0, 0, 6144, false }, "1.000000000000000000000000000000000E+6144", "folded" },
+        { { UINT_MAX, UINT_MAX, UINT_MAX, INT_MAX, true }, "-Infinity", "too great" },
+        { { UINT_MAX, UINT_MAX, UINT_MAX, INT_MIN, true }, "-0E-6176", "too small" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        EXPECT_EQ(Plain::Print(Decimal(row.value)), row.text);
+    }
+}
+
+TEST(PortableDecimal, FromDecimal)
+{
+    struct Row
+    {
+        char const* value;
+        PortableDecimal portable;
+        char const* why;
+    };
+    Row const rows[] = {
+        { "123.45", { 12345, 0, 0, -2, false }, "digits and exponent as they are" },
+        { "-0.00", { 0, 0, 0, -2, true }, "zero too" },
+        { "18446744073709551616", { 0x9999999A, 0x19999999, 0, 1, false }, "twenty digits, rounded up" },
+        { "9999999999999999999500000000000000", { 0x89E80000, 0x8AC72304, 0, 15, false }, "a carry to 10^19" },
+        { "NaN7", { 0, 0, 0, 0, false }, "no payload" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        EXPECT_EQ(Plain::Scan(row.value).ToPortable(), row.portable);
+    }
+    EXPECT_NE(PortableDecimal(10, 0, 0, 0, false), PortableDecimal(1, 0, 0, 1, false));
+}
+
+TEST(PortableDecimal, NineteenDigitsComeBack)
+{
+    RandomDecimal random(50);
+    for (unsigned i = 0; i < GetDifferentialCases() / 10; ++i)
+    {
+        Decimal const value = random.Next();
+        decNumber const number = Plain::Decode(value);
+        if (decNumberIsSpecial(&number))
+            continue;
+        decContext context;
+        decContextDefault(&context, DEC_INIT_BASE); // half up, and no exponent is too small
+        context.traps = 0;
+        context.digits = 19;
+        decNumber expected;
+        decNumberPlus(&expected, &number, &context);
+        PortableDecimal const portable = value.ToPortable();
+        SCOPED_TRACE(Plain::Print(value));
+        ASSERT_EQ(Decimal(portable).CompareTo(Plain::Encode(expected)), 0);
+        ASSERT_EQ(portable.GetExponent(), number.exponent + std::max(0, number.digits - 19));
+        ASSERT_EQ(portable.IsNegative(), decNumberIsNegative(&number) != 0);
+    }
+}
+
+} // namespace Tests
