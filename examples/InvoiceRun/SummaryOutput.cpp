@@ -4,6 +4,8 @@
 #include "Document.h"
 #include "Summary.h"
 
+#include <Utilities/AmountText.h>
+
 #include <algorithm>
 #include <tuple>
 #include <vector>
@@ -23,16 +25,17 @@ void NoAttributes(Emitter const&)
 {
 }
 
-std::wstring Grouped(Decimal const& number)
+std::wstring Grouped(long long count)
 {
-    return number.ToString(L',', CodePoint(L'.'));
+    return FormatAmount(count, AmountGrouping::FullStop, 0);
 }
 
 using Row = std::array<std::wstring, 5>;
 
 Row MakeRow(std::wstring const& title, Total const& total)
 {
-    return { title, Grouped(total.lines), Grouped(total.net), Grouped(total.tax), Grouped(total.GetGross()) };
+    return { title, Grouped(total.lines), FormatAmount(total.net), FormatAmount(total.tax),
+             FormatAmount(total.GetGross()) };
 }
 
 std::wstring RightAligned(std::wstring const& text, std::size_t width)

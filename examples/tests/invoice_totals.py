@@ -8,9 +8,10 @@ from decimal import Decimal, ROUND_HALF_UP, getcontext
 getcontext().prec = 60  # more than any product or sum here has
 RATES = ["10", "13", "20"]
 CENT = Decimal("0.01")
+WHOLE = r"[-+]?(?:[0-9]{1,9}|[1-9][0-9]{0,2}(?:\.[0-9]{3}){1,2}(?=,)|[1-9][0-9]{0,2}(?:\xa0[0-9]{3}){1,2})"
 AMOUNTS = re.compile(
-    r"(-?[0-9]{1,9}(?:,[0-9]{1,3})?);"  # quantity
-    r"(-?[0-9]{1,9}(?:,[0-9]{1,4})?);"  # price
+    rf"({WHOLE}(?:,[0-9]{{1,3}})?);"  # quantity
+    rf"({WHOLE}(?:,[0-9]{{1,4}})?);"  # price
     r"((?:100(?:,00?)?|[0-9]{1,2}(?:,[0-9]{1,2})?)?);"  # discount
     r"(10|13|20)"
 )
@@ -27,7 +28,7 @@ def amounts_of(line):
 
 
 def number(text):
-    return Decimal(text.replace(",", ".") or "0")
+    return Decimal(text.translate({ord("."): None, 0xA0: None, ord(","): "."}) or "0")
 
 
 def add_up(path):
