@@ -144,7 +144,7 @@ private:
     unsigned long long m_high = 0x2208000000000000; // the exponent 0
 };
 
-/// With a number of another kind on the left: 2 * price.
+/// With a number of another kind on the left: 2 * price, 100 < price.
 template <class Number>
 concept DecimalOperand = std::is_arithmetic_v<Number>;
 
@@ -170,6 +170,42 @@ template <DecimalOperand Number>
 Decimal operator/(Number a, Decimal const& b)
 {
     return Decimal(a) / b;
+}
+
+template <DecimalOperand Number>
+bool operator==(Number a, Decimal const& b)
+{
+    return Decimal(a) == b;
+}
+
+template <DecimalOperand Number>
+bool operator!=(Number a, Decimal const& b)
+{
+    return Decimal(a) != b;
+}
+
+template <DecimalOperand Number>
+bool operator<(Number a, Decimal const& b)
+{
+    return Decimal(a) < b;
+}
+
+template <DecimalOperand Number>
+bool operator<=(Number a, Decimal const& b)
+{
+    return Decimal(a) <= b;
+}
+
+template <DecimalOperand Number>
+bool operator>(Number a, Decimal const& b)
+{
+    return Decimal(a) > b;
+}
+
+template <DecimalOperand Number>
+bool operator>=(Number a, Decimal const& b)
+{
+    return Decimal(a) >= b;
 }
 
 } // namespace Vek::Framework::Utilities

@@ -74,7 +74,7 @@ TEST(Decimal, OperatorsTakeEveryNumber)
     price *= 2U;
     price /= 4LL;
     EXPECT_EQ(Plain::Print(price), "6.50");
-    EXPECT_TRUE(2 * price == 13 && 6.5 == price && 1 / Decimal(8) == 0.125);
+    EXPECT_TRUE(2 * price == 13 && 6.5 == price && 1 / Decimal(8) == 0.125 && 7 > price && 7 != price);
     price -= price;
     EXPECT_EQ(Plain::Print(price), "0.00");
 }
