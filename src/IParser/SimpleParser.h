@@ -20,7 +20,7 @@ namespace Vek::Framework::IParser::Native
 ///          identifier, which goes on to the next of these. An identifier that reads as a number is a Number: an
 ///          optional sign, digits, and one decimal point after the first digit; a lone sign and "12." are numbers, too.
 /// Blanks:  line feed, carriage return and space. A tab is none: it is part of an identifier, like any letter.
-/// Comment: the marker counts only where something follows it. It ends with its line or the source.
+/// Comment: a marker of several characters counts only where something follows it. It ends with its line or the source.
 /// Decimal: the point is that of the C locale at the time the parser is made.
 /// Place:   line and column of a symbol are those of its first character, of a text those of its closing delimiter.
 ///          Columns count bytes. They are kept as the messages of existing hosts show them:

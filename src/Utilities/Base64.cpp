@@ -1,6 +1,7 @@
 #include <Utilities/Base64.h>
 
 #include <Exceptions/ArgumentException.h>
+#include <Exceptions/NullPointerException.h>
 #include <Platform/Base64Blocks.h>
 #include <Platform/WideBlock.h>
 
@@ -121,6 +122,8 @@ std::size_t CountFillers(std::wstring const& text)
 
 std::wstring Base64::Encode(unsigned char const* data, unsigned long long size)
 {
+    if (data == nullptr && size != 0)
+        throw NullPointerException();
     std::wstring text;
     text.reserve((size / 3 + (size % 3 != 0)) * 4);
     unsigned char const* const end = data + size;

@@ -15,7 +15,8 @@ class VEK_API Base64
 public:
     Base64() = delete;
 
-    /// Four characters for every three bytes begun; "" for none. `data` may be null when `size` is 0.
+    /// Four characters for every three bytes begun; "" for none. `data` may be null when `size` is 0, else
+    /// NullPointerException is thrown.
     static std::wstring Encode(unsigned char const* data, unsigned long long size);
     static std::wstring Encode(SizedArray<unsigned char> const& data);
 

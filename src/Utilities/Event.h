@@ -10,11 +10,10 @@ namespace Vek::Framework::Utilities
 
 /// An ordered list of handlers that are called with an argument when the event is raised.
 ///
-/// Handlers: called in the order of their registration, on the thread that raises. One may add handlers, which are
-/// called
-///           from the next raise on, raise the event again, and remove itself or any other: a removed one is not called
-///           any more, and one that is running lives until all raises have ended. One that throws ends the raise; the
-///           exception passes through.
+/// Handlers: called in the order of their registration, on the thread that raises.
+///           One may add handlers, which are called from the next raise on, raise the event again, and remove itself or
+///           any other: a removed one is not called any more, and one that is running lives until all raises have
+///           ended. One that throws ends the raise; the exception passes through.
 /// Const:    adding and removing do not change what the owner sees of its event, so a const reference is enough.
 /// Lifetime: the event must outlive its raises. Not copied: tokens belong to one event.
 template <class T>

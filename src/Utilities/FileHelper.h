@@ -19,9 +19,8 @@ enum class FileExistenceResult : int
 
 /// Operations on whole files.
 ///
-/// Paths: UTF-16, or 8-bit text in the system's ANSI code page (elsewhere than on Windows that is Windows-1252), with
-/// the
-///        system's own separators; on Linux they reach the system as UTF-8. More than 260 units are fine.
+/// Paths: UTF-16, or 8-bit text in the system's ANSI code page (elsewhere than on Windows that is Windows-1252), both
+///        with the system's own separators; on Linux they reach it as UTF-8. More than 260 units are fine.
 ///        A path with a 0 unit, and on Linux one that is no well-formed UTF-16, names nothing: Undetermined.
 /// Links: existence is that of the link itself, reading follows it.
 /// Use:   any thread; never instantiated. Between two calls the file system may change.

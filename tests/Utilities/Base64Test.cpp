@@ -1,6 +1,7 @@
 #include "UnitText.h"
 
 #include <Exceptions/ArgumentException.h>
+#include <Exceptions/NullPointerException.h>
 #include <Utilities/Base64.h>
 
 #include <gtest/gtest.h>
@@ -89,6 +90,7 @@ TEST(Base64, BytesThereAndBack)
     }
     EXPECT_EQ(L"TWE=", Base64::Encode(reinterpret_cast<unsigned char const*>("Ma"), 2));
     EXPECT_EQ(L"", Base64::Encode(nullptr, 0));
+    EXPECT_THROW(Base64::Encode(nullptr, 1), Vek::NullPointerException);
 }
 
 TEST(Base64, LongTextsAsGroupByGroup)
