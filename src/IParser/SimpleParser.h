@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace Vek::Framework::IParser::Native
 {
@@ -71,33 +72,53 @@ public:
     void ForEachSymbol(std::function<void(Symbol const&)> const& function) const;
 
 private:
-    enum StartFlag : unsigned char;
+    // What can begin with a byte. A run of bytes without any flag needs no further look.
+    // What can begin with a byte. A run of bytes without any flag needs no further look.
+    enum StartFlag : unsigned char
+    {
+        Blank = 1,
+        LoneToken = 2, // with SureToken: and no other
+        TokenStart = 4,
+        SureToken = 8, // with TokenStart: a token begins here whatever follows
+        TextStart = 16,
+        End = 32, // the zero byte behind the source, which ends every run
+        CommentStart = 64,
+        Tab = 128
+    };
+
+    // A short text is copied as this many bytes, which saves a call; so many zero bytes stand behind the source.
+    static constexpr std::size_t c_padding = 15;
 
     VEK_LOCAL void Mark(char first, StartFlag flag, bool isSet);
-    VEK_LOCAL unsigned char GetStart() const { return m_starts[static_cast<unsigned char>(*GetPosition())]; }
+    VEK_LOCAL unsigned char GetStart() const { return GetStart(*GetPosition()); }
+    VEK_LOCAL unsigned char GetStart(char first) const { return m_starts[static_cast<unsigned char>(first)]; }
     VEK_LOCAL char const* GetPosition() const { return m_source.data() + m_position; }
-    VEK_LOCAL std::size_t GetRemainingBytes() const { return m_source.size() - m_position; }
+    VEK_LOCAL std::size_t GetRemainingBytes() const { return m_sourceSize - m_position; }
     VEK_LOCAL void Advance(std::size_t count);
 
     VEK_LOCAL bool GetAnySymbol(Symbol& symbol);
     VEK_LOCAL bool Record(Symbol& symbol);
-    VEK_LOCAL bool BuildPlainSymbol(Symbol& symbol);
-    VEK_LOCAL bool BuildPlainIdentifier(Symbol& symbol);
-    VEK_LOCAL bool BuildPlainToken(Symbol& symbol);
+    VEK_LOCAL bool ScanPlainSymbol(Symbol& symbol);
+    VEK_LOCAL std::size_t BuildPlainSymbol(Symbol& symbol, int start);
+    VEK_LOCAL std::size_t BuildPlainIdentifier(Symbol& symbol);
+    VEK_LOCAL std::size_t BuildPlainToken(Symbol& symbol);
+    VEK_LOCAL std::size_t BuildLoneToken(Symbol& symbol);
+    VEK_LOCAL void BeginToken(Symbol& symbol, Internal::Token const& token);
+    VEK_LOCAL static void SetText(Symbol& symbol, char const* begin, std::size_t size);
     VEK_LOCAL bool BuildNextSymbol(Symbol& symbol);
     VEK_LOCAL bool BuildPassThroughSymbol(Symbol& symbol);
     VEK_LOCAL void CalcPosition();
     VEK_LOCAL bool IsComment() const;
     VEK_LOCAL void SkipComment();
     VEK_LOCAL bool ScanToken(Symbol& symbol);
-    VEK_LOCAL void TakeToken(Symbol& symbol, Internal::Token const& token);
     VEK_LOCAL bool ScanText(Symbol& symbol);
     VEK_LOCAL bool ScanSkipped();
     VEK_LOCAL void SkipBlanks();
     VEK_LOCAL void ScanIdentifier(Symbol& symbol);
-    VEK_LOCAL bool IsNumeric(std::string const& text) const;
+    VEK_LOCAL bool IsNumeric(std::string_view text) const;
 
-    std::string m_source;
+    std::string m_source = std::string(c_padding, '\0');
+    std::size_t m_sourceSize = 0; // without the padding
     std::size_t m_position = 0;
     unsigned long long m_line = 1; // not beside the column: read as a pair, both would wait for their last writes
     Internal::TokenRegistry m_tokens;

@@ -20,6 +20,7 @@ Symbol::Symbol() = default;
 
 Symbol::Symbol(SymbolType symbolType, std::string const& description)
     : m_symbolType(symbolType),
+      m_symbolId(symbolType == Token ? -1 : static_cast<int>(symbolType)),
       m_description(description)
 {
 }

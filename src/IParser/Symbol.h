@@ -48,9 +48,9 @@ public:
     SymbolType GetSymbolType() const noexcept { return m_symbolType; }
     State GetState() const noexcept { return m_state; }
     /// The id the token was registered with; -1 for all other kinds.
-    int GetTokenId() const noexcept { return m_tokenId; }
+    int GetTokenId() const noexcept { return m_symbolType == Token ? m_symbolId : -1; }
     /// The token's id, for all other kinds the value of the kind: one number to switch over.
-    int GetSymbolId() const noexcept { return m_symbolType == Token ? m_tokenId : static_cast<int>(m_symbolType); }
+    int GetSymbolId() const noexcept { return m_symbolId; }
     /// The name of the kind, in English; empty for a token.
     std::string const& GetDescription() const;
     /// From 1, as SimpleParser counts.
@@ -65,11 +65,9 @@ private:
     friend class SimpleParser;
     friend class Internal::SymbolRecord;
 
-    // The text keeps its memory.
+    // Everything but the text, which the scanner writes last.
     void Begin(SymbolType symbolType, unsigned long long line, unsigned long long column)
     {
-        m_text.clear();
-        m_tokenId = -1;
         m_line = line;
         m_column = column;
         m_prevSymbol = nullptr;
@@ -79,6 +77,7 @@ private:
     void SetKind(SymbolType symbolType)
     {
         m_symbolType = symbolType;
+        m_symbolId = static_cast<int>(symbolType);
         m_state = Complete;
         m_hasOwnDescription = false;
     }
@@ -86,7 +85,7 @@ private:
     std::string m_text;
     SymbolType m_symbolType = Undefined;
     State m_state = Complete;
-    int m_tokenId = -1;
+    int m_symbolId = Undefined;
     std::string m_description;       // of a symbol that was not scanned
     bool m_hasOwnDescription = true; // otherwise it follows from the kind
     unsigned long long m_line = 0;

@@ -42,6 +42,9 @@ public:
         return nullptr;
     }
 
+    /// The longest of the tokens that begin with `first`; there must be one.
+    Token const& GetLongest(char first) const { return *BucketOf(first).front().token; }
+
     /// True when `first` alone is a token and none that begins with it is kept from the scanner.
     bool IsSureToken(char first) const;
 
