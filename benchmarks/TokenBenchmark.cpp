@@ -54,7 +54,7 @@ SimpleParser MakeSimpleParser()
 {
     SimpleParser parser(false);
     for (std::size_t i = 0; i < std::size(c_operators); ++i)
-        parser.AddToken(static_cast<int>(i + 1), c_operators[i], "", true);
+        parser.AddToken(static_cast<int>(i + 1), std::string(c_operators[i]), "", true);
     return parser;
 }
 
@@ -93,7 +93,8 @@ private:
         code->RegisterTransitionToken("\"", Quoted, State::CaseSensitive);
         for (std::size_t i = 0; i < std::size(c_operators); ++i)
             code->RegisterTokenConsumer(
-                c_operators[i], [=, this](State::ResultParams&) { Add(static_cast<unsigned>(i + 1), c_operators[i]); },
+                std::string(c_operators[i]),
+                [=, this](State::ResultParams&) { Add(static_cast<unsigned>(i + 1), c_operators[i]); },
                 State::CaseSensitive);
         code->RegisterTextViewConsumer([this](std::string_view text, State::ResultParams&)
                                        { Add(IsNumber(text) ? Number : Identifier, text); });

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 /// One small language and the scanners that re2c and flex make of it: identifiers, numbers, texts in double quotes
 /// without escapes, comments from "//" to the end of the line, and operators.
@@ -18,8 +19,8 @@ enum SymbolKind : unsigned
 };
 
 /// The operator at index i has the kind i + 1.
-constexpr char const* c_operators[] = { "+",  "-",  "*",  "/", "%", "=", "==", "!", "!=", "<", "<=", ">",
-                                        ">=", "&&", "||", "(", ")", "{", "}",  "[", "]",  ",", ";" };
+constexpr std::string_view c_operators[] = { "+",  "-",  "*",  "/", "%", "=", "==", "!", "!=", "<", "<=", ">",
+                                             ">=", "&&", "||", "(", ")", "{", "}",  "[", "]",  ",", ";" };
 
 /// What a scanner hands out; the text's memory is used again.
 struct ScannedSymbol

@@ -51,7 +51,11 @@ public:
     /// The first byte in [at, end) that is not in the set, or `end`.
     char const* FindOther(char const* at, char const* end) const
     {
-        if (m_count <= 4 && at != end && Contains(*at))
+        // One or two members are the most common run by far, and not worth a block.
+        for (int looks = 0; looks < 2; ++looks, ++at)
+            if (at == end || !Contains(*at))
+                return at;
+        if (m_count <= 4)
             for (; end - at >= c_blockSize; at += c_blockSize)
                 if (unsigned int const others = MatchBlock<4>(at) ^ 0xFFFFU; others != 0)
                     return at + std::countr_zero(others);
