@@ -133,19 +133,33 @@ public:
 
     std::string Run()
     {
+        wchar_t const* const begin = m_at;
+        EncodePiece();
         std::string result;
-        if (m_end - m_at > c_bufferSize) // a shorter text mostly comes in one piece, which knows its size
-            result.reserve(static_cast<std::size_t>(m_end - m_at));
+        if (m_at != m_end)
+            result.reserve(EstimateSize(m_at - begin));
+        result.append(m_buffer, GetPieceSize());
         while (m_at != m_end)
         {
             EncodePiece();
-            result.append(m_buffer, static_cast<std::size_t>(m_target - m_buffer));
+            result.append(m_buffer, GetPieceSize());
         }
         return result;
     }
 
 private:
     static constexpr std::ptrdiff_t c_bufferSize = 2048;
+
+    std::size_t GetPieceSize() const noexcept { return static_cast<std::size_t>(m_target - m_buffer); }
+
+    /// Most texts go on as their first piece begins. An estimate that is a little high costs nothing; one that is a
+    /// little low has all moved to twice the memory near the end.
+    std::size_t EstimateSize(std::ptrdiff_t firstUnits) const noexcept
+    {
+        double const bytesPerUnit = static_cast<double>(GetPieceSize()) / static_cast<double>(firstUnits);
+        double const estimate = static_cast<double>(m_end - m_at) * (bytesPerUnit + 1.0 / 32);
+        return GetPieceSize() + static_cast<std::size_t>(estimate);
+    }
 
     void EncodePiece()
     {
