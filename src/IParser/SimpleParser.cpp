@@ -99,4 +99,40 @@ void SimpleParser::ForEachSymbol(std::function<void(Symbol const&)> const& funct
     m_recordedSymbols.ForEach(function);
 }
 
+bool SimpleParser::GetAnySymbol(Symbol& symbol)
+{
+    m_symbolInProgress = false;
+    if (!(m_passThrough ? BuildPassThroughSymbol(symbol) : BuildNextSymbol(symbol)))
+    {
+        symbol.Begin(Symbol::Undefined, 0, 0);
+        symbol.m_text.clear();
+        return false;
+    }
+    if (symbol.m_symbolType == Symbol::Identifier && IsNumeric(symbol.m_text))
+        symbol.SetKind(Symbol::Number);
+    return !m_recordSymbols || Record(symbol);
+}
+
+bool SimpleParser::Record(Symbol& symbol)
+{
+    symbol.m_prevSymbol = m_recordedSymbols.GetLast();
+    m_recordedSymbols.Add(symbol);
+    return true;
+}
+
+bool SimpleParser::BuildPassThroughSymbol(Symbol& symbol)
+{
+    while (GetRemainingBytes() != 0)
+    {
+        CalcPosition();
+        if (ScanToken(symbol))
+        {
+            m_passThrough = false;
+            return true;
+        }
+        ScanIdentifier(symbol);
+    }
+    return m_symbolInProgress;
+}
+
 } // namespace Vek::Framework::IParser::Native
