@@ -3,8 +3,10 @@
 #include <IParser/SimpleParser.h>
 #include <Utilities/WStringHelper.h>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
+#include <vector>
 
 using namespace Vek::Framework::IParser::Native;
 using Vek::Framework::Utilities::Decimal;
@@ -53,7 +55,7 @@ struct Operand
     NumberOf number;
     TextOf text;
     std::wstring literal; // of a text that stands in the expression
-    unsigned long long column;
+    Symbol symbol;        // it stands for, with its place
 };
 
 bool Compare(int token, int order)
@@ -94,7 +96,7 @@ public:
             return [](Booking const&) { return true; };
         Filter filter = ParseAlternatives();
         if (m_symbol.GetSymbolType() != Symbol::Undefined)
-            Fail("\"&&\" or \"||\" is missing in front of " + Describe(), m_symbol.GetColumn());
+            Fail("\"&&\" or \"||\" is missing in front of " + Describe(), m_symbol);
         return filter;
     }
 
@@ -119,27 +121,30 @@ private:
         return m_symbol.GetSymbolType() == Symbol::Undefined ? "the end" : "\"" + m_symbol.GetText() + "\"";
     }
 
-    [[noreturn]] void Fail(std::string const& reason, unsigned long long column) const
+    [[noreturn]] void Fail(std::string const& reason, Symbol const& symbol) const
     {
-        throw FilterError("the filter is wrong" + (column == 0 ? "" : " in column " + std::to_string(column)) + ": " +
-                          reason);
+        std::string const place =
+            " in line " + std::to_string(symbol.GetLine()) + ", column " + std::to_string(symbol.GetColumn());
+        bool const isEnd = symbol.GetSymbolType() == Symbol::Undefined; // which has no place
+        throw FilterError("the filter is wrong" + (isEnd ? "" : place) + ": " + reason);
     }
 
     Filter ParseAlternatives()
     {
-        Filter left = ParseConditions();
+        std::vector<Filter> filters{ ParseConditions() };
         while (Take(Or))
-            left = [left, right = ParseConditions()](Booking const& booking)
-            { return left(booking) || right(booking); };
-        return left;
+            filters.push_back(ParseConditions());
+        return [filters = std::move(filters)](Booking const& booking)
+        { return std::any_of(filters.begin(), filters.end(), [&](Filter const& filter) { return filter(booking); }); };
     }
 
     Filter ParseConditions()
     {
-        Filter left = ParseCondition();
+        std::vector<Filter> filters{ ParseCondition() };
         while (Take(And))
-            left = [left, right = ParseCondition()](Booking const& booking) { return left(booking) && right(booking); };
-        return left;
+            filters.push_back(ParseCondition());
+        return [filters = std::move(filters)](Booking const& booking)
+        { return std::all_of(filters.begin(), filters.end(), [&](Filter const& filter) { return filter(booking); }); };
     }
 
     Filter ParseCondition()
@@ -147,7 +152,7 @@ private:
         // Deeper than anybody writes, far above where the stack would end.
         constexpr int deepest = 200;
         if (++m_depth > deepest)
-            Fail("it is nested too deeply", m_symbol.GetColumn());
+            Fail("it is nested too deeply", m_symbol);
         Filter condition = ParseNegationOrGroup();
         --m_depth;
         return condition;
@@ -161,7 +166,7 @@ private:
             return ParseComparison();
         Filter inner = ParseAlternatives();
         if (!Take(Close))
-            Fail("\")\" is missing in front of " + Describe(), m_symbol.GetColumn());
+            Fail("\")\" is missing in front of " + Describe(), m_symbol);
         return inner;
     }
 
@@ -170,13 +175,13 @@ private:
         Operand left = ParseOperand();
         int const token = m_symbol.GetTokenId();
         if (m_symbol.GetSymbolType() != Symbol::Token || token > GreaterOrEqual)
-            Fail("a comparison such as == is missing in front of " + Describe(), m_symbol.GetColumn());
+            Fail("a comparison such as == is missing in front of " + Describe(), m_symbol);
         Advance();
         Operand right = ParseOperand();
         TurnIntoDay(left, right);
         TurnIntoDay(right, left);
         if (left.kind != right.kind)
-            Fail("a text, a number and a date cannot be compared with each other", right.column);
+            Fail("a text, a number and a date cannot be compared with each other", right.symbol);
         if (left.kind == Operand::Text)
             return [token, a = left.text, b = right.text](Booking const& booking)
             { return Compare(token, a(booking).compare(b(booking))); };
@@ -191,7 +196,7 @@ private:
             return;
         int const day = GetDayNumber(literal.literal);
         if (day == 0)
-            Fail("a date such as \"31.12.2025\" is needed to compare with datum", literal.column);
+            Fail("a date such as \"31.12.2025\" is needed to compare with datum", literal.symbol);
         literal.kind = Operand::Day;
         literal.number = [day](Booking const&) { return Decimal(day); };
     }
@@ -199,7 +204,7 @@ private:
     Operand ParseOperand()
     {
         Operand operand = ReadOperand();
-        operand.column = m_symbol.GetColumn();
+        operand.symbol = m_symbol;
         Advance();
         return operand;
     }
@@ -213,16 +218,16 @@ private:
             return ReadNumber(text);
         case Symbol::Text:
             if (m_symbol.GetState() == Symbol::Unterminated)
-                Fail("the closing quote is missing", m_symbol.GetColumn());
+                Fail("the closing quote is missing", m_symbol);
             return ReadText(text);
         case Symbol::Identifier:
             if (std::optional<Operand> column = FindColumn(text))
                 return *column;
             Fail("\"" + text +
                      "\" is neither a column (datum, betrag, waehrung, text, beleg) nor a number such as 12.50",
-                 m_symbol.GetColumn());
+                 m_symbol);
         default:
-            Fail("a column, a number or a text is missing in front of " + Describe(), m_symbol.GetColumn());
+            Fail("a column, a number or a text is missing in front of " + Describe(), m_symbol);
         }
     }
 
@@ -230,8 +235,8 @@ private:
     {
         Decimal const value = Decimal::FromString(std::wstring(text.begin(), text.end()), L'.');
         if (text.find_first_of("0123456789") == std::string::npos)
-            Fail("\"" + text + "\" is no number", m_symbol.GetColumn());
-        return { Operand::Number, [value](Booking const&) { return value; }, nullptr, {}, 0 };
+            Fail("\"" + text + "\" is no number", m_symbol);
+        return { Operand::Number, [value](Booking const&) { return value; }, nullptr, {}, {} };
     }
 
     Operand ReadText(std::string const& text) const
@@ -239,32 +244,34 @@ private:
         try
         {
             std::wstring const value = WStringHelper::GetUTF16FromUTF8(text);
-            return { Operand::Text, nullptr, [value](Booking const&) { return value; }, value, 0 };
+            return { Operand::Text, nullptr, [value](Booking const&) { return value; }, value, {} };
         }
         catch (std::range_error const&)
         {
-            Fail("the text is no UTF-8", m_symbol.GetColumn());
+            Fail("the text is no UTF-8", m_symbol);
         }
     }
 
     static std::optional<Operand> FindColumn(std::string const& name)
     {
         if (name == "datum")
-            return Operand{
-                Operand::Day, [](Booking const& booking) { return Decimal(GetDayNumber(booking.date)); }, nullptr, {}, 0
-            };
+            return Operand{ Operand::Day,
+                            [](Booking const& booking) { return Decimal(GetDayNumber(booking.date)); },
+                            nullptr,
+                            {},
+                            {} };
         if (name == "betrag")
-            return Operand{ Operand::Number, [](Booking const& booking) { return booking.amount; }, nullptr, {}, 0 };
+            return Operand{ Operand::Number, [](Booking const& booking) { return booking.amount; }, nullptr, {}, {} };
         if (name == "waehrung")
-            return Operand{ Operand::Text, nullptr, [](Booking const& booking) { return booking.currency; }, {}, 0 };
+            return Operand{ Operand::Text, nullptr, [](Booking const& booking) { return booking.currency; }, {}, {} };
         if (name == "text")
-            return Operand{ Operand::Text, nullptr, [](Booking const& booking) { return booking.text; }, {}, 0 };
+            return Operand{ Operand::Text, nullptr, [](Booking const& booking) { return booking.text; }, {}, {} };
         if (name == "beleg")
             return Operand{ Operand::Number,
                             [](Booking const& booking) { return Decimal(booking.attachment.size()); },
                             nullptr,
                             {},
-                            0 };
+                            {} };
         return std::nullopt;
     }
 

@@ -99,8 +99,27 @@ void WriteValuesAndCheck(CommandLine const& files, Statement const& chosen)
     std::cout << '\n';
 }
 
+bool IsSameFile(std::filesystem::path const& left, std::filesystem::path const& right)
+{
+    std::error_code ignored; // what cannot be found is no file that could be lost
+    std::filesystem::path const place = std::filesystem::weakly_canonical(left, ignored);
+    return std::filesystem::equivalent(left, right, ignored) ||
+           (!place.empty() && place == std::filesystem::weakly_canonical(right, ignored));
+}
+
+/// The statement still holds what was skipped and not chosen, so no result may take its place.
+void RequireDifferentFiles(CommandLine const& files)
+{
+    for (std::filesystem::path const& target : { files.document, files.values })
+        if (IsSameFile(target, files.statement))
+            throw DocumentError(NameOf(target) + " is the statement itself and is not replaced");
+    if (IsSameFile(files.document, files.values))
+        throw DocumentError(NameOf(files.values) + " cannot hold the XML and the separated values as well");
+}
+
 void Run(CommandLine const& files)
 {
+    RequireDifferentFiles(files);
     Filter const filter = ParseFilter(files.filter);
     Statement const statement = ReadStatement(files.statement);
     PrintSkipped(files, statement);
@@ -111,6 +130,7 @@ void Run(CommandLine const& files)
               << (files.filter.empty() ? "no filter" : files.filter) << '\n';
     PrintBookings(chosen.bookings);
     WriteDocumentAndCheck(files.document, chosen.bookings);
+    RequireDifferentFiles(files); // Windows tells names that differ in case apart only until one of them exists
     WriteValuesAndCheck(files, chosen);
 }
 

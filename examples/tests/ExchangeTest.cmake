@@ -38,14 +38,27 @@ endif()
 expect_error("usage" "usage: " statement.csv)
 expect_error("folder of the target is missing" "error.xml cannot be written"
     ${DATA_FOLDER}/statement.csv "beleg >= 0" missing/error.xml error.csv)
+file(COPY ${data}/statement-bad-lines.csv DESTINATION ${WORK_FOLDER})
+foreach(targets IN ITEMS "error.xml|./statement-bad-lines.csv" "statement-bad-lines.csv|error.csv")
+    string(REPLACE "|" ";" targets ${targets})
+    expect_error("a target is the statement" "statement-bad-lines.csv is the statement itself and is not replaced\n$"
+        statement-bad-lines.csv "beleg >= 0" ${targets})
+    require_same_bytes(${data}/statement-bad-lines.csv ${WORK_FOLDER}/statement-bad-lines.csv)
+endforeach()
+expect_error("both targets are one file" "one cannot hold the XML and the separated values as well\n$"
+    statement-bad-lines.csv "beleg >= 0" one ./one)
 
 # Every rule of the expression, broken; columns count as SimpleParser counts them.
 foreach(row IN ITEMS
-        "betrag >|: a column, a number or a text is missing in front of the end"
-        "betrag = 1|: .*" "(betrag > 1| \"\\)\" is missing in front of the end" "foo == 1| in column 1: \"foo\" is neither"
-        "betrag == \"x\"| in column 13: a text, a number and a date cannot" "betrag > 1 text| in column 12: \"&&\" or"
-        "datum > \"31.2.2025\"| in column 19: a date such as" "text == \"abc| in column 13: the closing quote is missing"
-        "betrag > 12,50| in column 10: \"12,50\" is neither" "betrag > -| in column 10: \"-\" is no number")
+        "betrag >|: a column, a number or a text is missing in front of the end" "betrag = 1|: .*"
+        "(betrag > 1| \"\\)\" is missing in front of the end" "foo == 1| in line 1, column 1: \"foo\" is neither"
+        "betrag == \"x\"| in line 1, column 13: a text, a number and a date cannot"
+        "betrag > 1 text| in line 1, column 12: \"&&\" or"
+        "datum > \"31.2.2025\"| in line 1, column 19: a date such as"
+        "text == \"abc| in line 1, column 13: the closing quote is missing"
+        "betrag > 1 &&\n  foo == 2| in line 2, column 3: \"foo\" is neither"
+        "betrag > 12,50| in line 1, column 10: \"12,50\" is neither"
+        "betrag > -| in line 1, column 10: \"-\" is no number")
     string(REGEX MATCH "^(.*[^|])\\|([^|].*)$" parts "${row}")
     set(pattern "${CMAKE_MATCH_2}")
     expect_exchange_error("filter ${CMAKE_MATCH_1}" "the filter is wrong.*${pattern}" ${DATA_FOLDER}/statement.csv

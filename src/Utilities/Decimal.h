@@ -23,13 +23,11 @@ concept NoNumber = std::same_as<Type, bool> || std::same_as<Type, char> || std::
 ///
 /// Shape:    a decimal128 of IEEE 754-2008 in its densely packed encoding, 16 bytes, the low word first. A plain value,
 ///           copied freely, safe on any thread.
-/// Digits:   34, rounded half away from zero. The exponent belongs to the value: 1.5 and 1.50 are equal but have one
-/// and
+/// Digits:   34, rounded half away from zero. The exponent belongs to the value: 1.5 and 1.50 are equal, with one and
 ///           two fraction digits. Exponents reach from -6176 to 6111.
-/// Specials: Infinity and NaN, as the General Decimal Arithmetic (Cowlishaw) gives them: 1 / 0 is Infinity, 0 / 0 is
-/// NaN,
-///           too large a result is Infinity, too small a one is rounded to what is left of its digits. A signalling NaN
-///           becomes a quiet one in every operation.
+/// Specials: Infinity and NaN, as the General Decimal Arithmetic (Cowlishaw) gives them: 1 / 0 is Infinity, 0 / 0 a
+///           NaN, too large a result an Infinity; too small a one is rounded to what is left of its digits. A
+///           signalling NaN becomes a quiet one in every operation.
 /// Errors:   arithmetic throws nothing. Results are bit for bit those of decNumber.
 /// Cost:     nothing is allocated but by text output.
 class VEK_API Decimal
