@@ -29,7 +29,7 @@ concept NoNumber = std::same_as<Type, bool> || std::same_as<Type, char> || std::
 ///           NaN, too large a result an Infinity; too small a one is rounded to what is left of its digits. A
 ///           signalling NaN becomes a quiet one in every operation.
 /// Errors:   arithmetic throws nothing. Results are bit for bit those of decNumber.
-/// Cost:     nothing is allocated but by text output.
+/// Cost:     nothing is allocated but by text output, by powers, and once by what converts doubles.
 class VEK_API Decimal
 {
 public:
