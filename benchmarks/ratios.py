@@ -20,7 +20,7 @@ def speed(run):
 
 print("| workload | peer | ours / peer | ours | peer |")
 print("| --- | --- | ---: | ---: | ---: |")
-for workload, contestants in medians.items():
+for workload, contestants in sorted(medians.items()):  # they ran in a random order
     own = contestants.pop("ours")
     for peer, run in contestants.items():
         print(f"| {workload} | {peer} | {own['cpu_time'] / run['cpu_time']:.2f} | {speed(own)} | {speed(run)} |")
