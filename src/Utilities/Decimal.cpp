@@ -6,7 +6,9 @@
 #include <Utilities/DecimalArithmetic/Text.h>
 #include <Utilities/PortableDecimal.h>
 
+#include <algorithm>
 #include <limits>
+#include <type_traits>
 
 namespace Vek::Framework::Utilities
 {

@@ -161,15 +161,9 @@ inline int CountDigits(Encoding encoding) noexcept
     return upper != 0 ? c_limbDigits + CountPackedDigits(upper) : CountPackedDigits(encoding.low & c_limbMask);
 }
 
-/// The digits of the eleven declets alone, which is also the payload of a NaN.
-inline Coefficient UnpackDeclets(Encoding encoding) noexcept
-{
-    return { UnpackLimb(GetUpperDeclets(encoding)), UnpackLimb(encoding.low) };
-}
-
 inline Finite Unpack(Encoding encoding) noexcept
 {
-    Coefficient coefficient = UnpackDeclets(encoding);
+    Coefficient coefficient{ UnpackLimb(GetUpperDeclets(encoding)), UnpackLimb(encoding.low) };
     coefficient.high += GetFirstDigit(encoding) * GetPowerOfTen(c_precision - 1 - c_limbDigits);
     return { IsNegative(encoding), GetExponent(encoding), coefficient };
 }
