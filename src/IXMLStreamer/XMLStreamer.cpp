@@ -1,6 +1,6 @@
 #include <IXMLStreamer/XMLStreamer.h>
 
-#include <IXMLStreamer/XMLStreamerReader.h>
+#include <IXMLStreamer/Internal/XMLStreamerReader.h>
 
 #include <utility>
 

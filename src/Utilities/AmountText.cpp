@@ -2,8 +2,8 @@
 
 #include <Exceptions/ArgumentException.h>
 #include <Exceptions/EnumOutOfRangeException.h>
-#include <Utilities/DecimalArithmetic/Text.h>
 #include <Utilities/DecimalClassification.h>
+#include <Utilities/Internal/DecimalArithmetic/Text.h>
 
 namespace Vek::Framework::Utilities
 {

@@ -3,7 +3,7 @@
 #include <Exceptions/ArgumentException.h>
 #include <Exceptions/InvalidStateException.h>
 #include <Exceptions/NullPointerException.h>
-#include <Utilities/Surrogates.h>
+#include <Utilities/Internal/Surrogates.h>
 #include <Utilities/WStringHelper.h>
 
 namespace Vek::Framework::Utilities

@@ -1,6 +1,6 @@
 #include <Utilities/CodePointEnumerator.h>
 
-#include <Utilities/Surrogates.h>
+#include <Utilities/Internal/Surrogates.h>
 
 #include <stdexcept>
 

@@ -1,7 +1,7 @@
 #include <Utilities/CommaSeparatedValueReader.h>
 
 #include <Exceptions/InvalidStateException.h>
-#include <Utilities/SeparatorFinder.h>
+#include <Utilities/Internal/SeparatorFinder.h>
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,6 +1,6 @@
 #include <Utilities/CommaSeparatedValueWriter.h>
 
-#include <Utilities/SeparatorFinder.h>
+#include <Utilities/Internal/SeparatorFinder.h>
 
 namespace Vek::Framework::Utilities
 {

@@ -2,8 +2,8 @@
 
 #include <Exceptions/EnumOutOfRangeException.h>
 #include <Exceptions/InvalidStateException.h>
-#include <Utilities/DecimalArithmetic/Arithmetic.h>
-#include <Utilities/DecimalArithmetic/Text.h>
+#include <Utilities/Internal/DecimalArithmetic/Arithmetic.h>
+#include <Utilities/Internal/DecimalArithmetic/Text.h>
 #include <Utilities/PortableDecimal.h>
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include <Utilities/DecimalClassification.h>
 
-#include <Utilities/DecimalArithmetic/Encoding.h>
+#include <Utilities/Internal/DecimalArithmetic/Encoding.h>
 
 namespace Vek::Framework::Utilities
 {

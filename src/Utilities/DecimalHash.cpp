@@ -1,6 +1,6 @@
 #include <Utilities/DecimalHash.h>
 
-#include <Utilities/DecimalArithmetic/Encoding.h>
+#include <Utilities/Internal/DecimalArithmetic/Encoding.h>
 
 namespace
 {

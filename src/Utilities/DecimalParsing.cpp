@@ -1,6 +1,6 @@
 #include <Utilities/DecimalParsing.h>
 
-#include <Utilities/DecimalArithmetic/Text.h>
+#include <Utilities/Internal/DecimalArithmetic/Text.h>
 
 namespace Vek::Framework::Utilities
 {

@@ -5,7 +5,7 @@
 #include <Platform/CodePage.h>
 #include <Platform/FileSystem.h>
 #include <Platform/InputFile.h>
-#include <Utilities/TextFile.h>
+#include <Utilities/Internal/TextFile.h>
 
 #include <algorithm>
 #include <optional>

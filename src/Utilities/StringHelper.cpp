@@ -1,5 +1,5 @@
+#include <Utilities/Internal/TextReplacement.h>
 #include <Utilities/StringHelper.h>
-#include <Utilities/TextReplacement.h>
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
 #include <Exceptions/ArgumentException.h>
-#include <Utilities/Surrogates.h>
+#include <Utilities/Internal/Surrogates.h>
 #include <Utilities/WStringHelper.h>
 
 #include <algorithm>

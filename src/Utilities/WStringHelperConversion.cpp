@@ -1,7 +1,7 @@
 #include <Exceptions/ArgumentException.h>
 #include <Platform/CodePage.h>
 #include <Platform/WideBlock.h>
-#include <Utilities/Surrogates.h>
+#include <Utilities/Internal/Surrogates.h>
 #include <Utilities/WStringHelper.h>
 
 #include <bit>

@@ -1,6 +1,6 @@
 #include <Exceptions/NullPointerException.h>
 #include <Platform/WideBlock.h>
-#include <Utilities/TextReplacement.h>
+#include <Utilities/Internal/TextReplacement.h>
 #include <Utilities/WStringHelper.h>
 
 #include <algorithm>

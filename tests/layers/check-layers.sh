@@ -20,7 +20,7 @@ allow()
 
 allow Exceptions
 allow Utilities Exceptions Platform
-allow SysBase Exceptions Platform
+allow SysBase Utilities Exceptions Platform
 allow IParser Utilities Exceptions Platform
 allow IXMLStreamer IParser Utilities Exceptions Platform
 allow Platform Exceptions

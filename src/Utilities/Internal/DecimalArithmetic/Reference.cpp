@@ -1,4 +1,4 @@
-#include <Utilities/DecimalArithmetic/Reference.h>
+#include <Utilities/Internal/DecimalArithmetic/Reference.h>
 
 #include <algorithm>
 #include <bit>

@@ -1,4 +1,4 @@
-#include <Utilities/DecimalArithmetic/Coefficient.h>
+#include <Utilities/Internal/DecimalArithmetic/Coefficient.h>
 
 #include <bit>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <Utilities/DecimalArithmetic/Encoding.h>
-#include <Utilities/DecimalArithmetic/Reference.h>
+#include <Utilities/Internal/DecimalArithmetic/Encoding.h>
+#include <Utilities/Internal/DecimalArithmetic/Reference.h>
 
 /// The operations of Decimal on encodings. Each has a quick way for finite numbers and plain exponents, and answers
 /// what Reference answers, bit for bit, for every canonical operand.

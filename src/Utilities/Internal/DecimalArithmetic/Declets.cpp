@@ -1,4 +1,4 @@
-#include <Utilities/DecimalArithmetic/Declets.h>
+#include <Utilities/Internal/DecimalArithmetic/Declets.h>
 
 namespace Vek::Framework::Utilities::DecimalArithmetic
 {

@@ -1,4 +1,4 @@
-#include <Utilities/TextFile.h>
+#include <Utilities/Internal/TextFile.h>
 
 #include <Exceptions/InvalidStateException.h>
 

@@ -1,4 +1,4 @@
-#include <IXMLStreamer/XMLStreamerReader.h>
+#include <IXMLStreamer/Internal/XMLStreamerReader.h>
 
 #include <IParser/Internal/FindAny.h>
 #include <IXMLStreamer/Internal/ReaderStates.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <Utilities/CodePoint.h>
-#include <Utilities/DecimalArithmetic/Encoding.h>
+#include <Utilities/Internal/DecimalArithmetic/Encoding.h>
 #include <Utilities/Nullable.h>
 
 #include <cstddef>

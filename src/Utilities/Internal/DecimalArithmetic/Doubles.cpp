@@ -1,5 +1,5 @@
 #include <Platform/LazyPages.h>
-#include <Utilities/DecimalArithmetic/Arithmetic.h>
+#include <Utilities/Internal/DecimalArithmetic/Arithmetic.h>
 
 #include <algorithm>
 #include <array>

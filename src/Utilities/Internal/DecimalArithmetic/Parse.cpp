@@ -1,6 +1,6 @@
-#include <Utilities/DecimalArithmetic/Arithmetic.h>
-#include <Utilities/DecimalArithmetic/PackedDigits.h>
-#include <Utilities/DecimalArithmetic/Text.h>
+#include <Utilities/Internal/DecimalArithmetic/Arithmetic.h>
+#include <Utilities/Internal/DecimalArithmetic/PackedDigits.h>
+#include <Utilities/Internal/DecimalArithmetic/Text.h>
 
 #include <Platform/WideBlock.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <Utilities/Decimal.h>
-#include <Utilities/DecimalArithmetic/Coefficient.h>
+#include <Utilities/Internal/DecimalArithmetic/Coefficient.h>
 
 #include <bit>
 #include <cstdint>

@@ -1,5 +1,5 @@
-#include <Utilities/DecimalArithmetic/Arithmetic.h>
-#include <Utilities/DecimalArithmetic/PackedDigits.h>
+#include <Utilities/Internal/DecimalArithmetic/Arithmetic.h>
+#include <Utilities/Internal/DecimalArithmetic/PackedDigits.h>
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include <Utilities/DecimalArithmetic/Text.h>
+#include <Utilities/Internal/DecimalArithmetic/Text.h>
 
 #include <Platform/WideBlock.h>
-#include <Utilities/DecimalArithmetic/PackedDigits.h>
+#include <Utilities/Internal/DecimalArithmetic/PackedDigits.h>
 
 #include <algorithm>
 #include <bit>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Utilities/DecimalArithmetic/Encoding.h>
+#include <Utilities/Internal/DecimalArithmetic/Encoding.h>
 
 #include <bit>
 #include <compare>

@@ -1,4 +1,4 @@
-#include <IXMLStreamer/XMLStreamerReader.h>
+#include <IXMLStreamer/Internal/XMLStreamerReader.h>
 
 #include <Exceptions/InvalidStateException.h>
 #include <IXMLStreamer/Internal/ParserErrorTable.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Utilities/DecimalArithmetic/Encoding.h>
+#include <Utilities/Internal/DecimalArithmetic/Encoding.h>
 
 /// The operations as decNumber has them, with 34 digits, half-up and no traps: slow, for every operand. What the quick
 /// ways leave out ends here: Infinity and NaN, overflow, subnormal numbers, folded exponents, powers.

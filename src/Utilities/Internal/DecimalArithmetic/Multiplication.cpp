@@ -1,4 +1,4 @@
-#include <Utilities/DecimalArithmetic/Arithmetic.h>
+#include <Utilities/Internal/DecimalArithmetic/Arithmetic.h>
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <Platform/WideInteger.h>
-#include <Utilities/DecimalArithmetic/Declets.h>
-#include <Utilities/DecimalArithmetic/PowersOfTen.h>
+#include <Utilities/Internal/DecimalArithmetic/Declets.h>
+#include <Utilities/Internal/DecimalArithmetic/PowersOfTen.h>
 
 #include <compare>
 #include <cstdint>
