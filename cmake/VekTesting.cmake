@@ -12,12 +12,12 @@ if(WIN32 AND CMAKE_CROSSCOMPILING)
         LC_ALL=de_DE.UTF-8)
     add_test(NAME StartWine COMMAND sh ${PROJECT_SOURCE_DIR}/cmake/start-wine.sh)
     set_tests_properties(StartWine PROPERTIES
-        FIXTURES_SETUP Wine TIMEOUT 300 ENVIRONMENT "${VEK_TEST_ENVIRONMENT}")
+        FIXTURES_SETUP Wine TIMEOUT 1800 ENVIRONMENT "${VEK_TEST_ENVIRONMENT}")
 endif()
 
 # Gives tests that add_test has made what they need on this target.
 function(vek_set_up_tests)
-    set_tests_properties(${ARGN} PROPERTIES TIMEOUT 300)
+    set_tests_properties(${ARGN} PROPERTIES TIMEOUT 1800) # a loaded machine is ten times slower
     if(VEK_TEST_ENVIRONMENT)
         set_tests_properties(${ARGN} PROPERTIES FIXTURES_REQUIRED Wine ENVIRONMENT "${VEK_TEST_ENVIRONMENT}")
     endif()

@@ -76,11 +76,11 @@ private:
     std::mt19937_64 m_engine;
 };
 
-/// How many cases a differential test runs: a million, or VEK_DIFFERENTIAL_CASES.
+/// How many cases a differential test runs: VEK_DIFFERENTIAL_CASES of the environment, or what the build sets.
 inline unsigned GetDifferentialCases()
 {
     char const* const cases = std::getenv("VEK_DIFFERENTIAL_CASES");
-    return cases == nullptr ? 1'000'000 : static_cast<unsigned>(std::stoul(cases));
+    return cases == nullptr ? VEK_DEFAULT_DIFFERENTIAL_CASES : static_cast<unsigned>(std::stoul(cases));
 }
 
 } // namespace Tests
