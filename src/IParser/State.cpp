@@ -45,10 +45,10 @@ unsigned int State::GetId() const noexcept
     return m_id;
 }
 
-// Called when no consumer of this parser is running.
+// Called when no consumer of this parser is running. What a consumer has captured may register another one as it ends.
 void State::ForgetReplacedConsumers()
 {
-    m_replacedConsumers.clear();
+    std::vector<std::shared_ptr<void const>>().swap(m_replacedConsumers);
 }
 
 template <class Consumer>

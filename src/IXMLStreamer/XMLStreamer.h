@@ -55,8 +55,8 @@ public:
     /// Throws InvalidStateException when called from a handler of this reader.
     bool ProcessSource(std::istream& stream);
 
-    /// The error of the last run, or of a child registered twice since. Handlers' errors carry line and column -1;
-    /// GetParserResult has the place of every failure.
+    /// The error of the last run; otherwise of a child registered twice since it began. Handlers' errors carry line and
+    /// column -1; GetParserResult has the place of every failure.
     StreamerError& GetError() noexcept;
     StreamerError const& GetError() const noexcept;
 

@@ -32,13 +32,14 @@ XMLStructureElement& XMLStructureElement::CreateStructureElement(std::string con
 {
     std::unique_ptr<XMLStructureElement> element(new XMLStructureElement(m_error, name));
     XMLStructureElement& created = *element;
+    created.m_home = m_home;
     InsertElement(std::move(element));
     return created;
 }
 
 void XMLStructureElement::InsertElement(std::unique_ptr<XMLElement> element)
 {
-    XMLElement& inserted = *m_ownedElements.emplace_back(std::move(element));
+    XMLElement& inserted = *m_home->emplace_back(std::move(element));
     if (m_children.Find(inserted.GetElementName()) == nullptr)
         m_children.Add(inserted.GetElementName()) = &inserted;
     else

@@ -11,7 +11,7 @@ namespace Vek::Framework::IXMLStreamer::Native
 
 class StreamerError;
 
-/// The description of an element that holds elements. Owns their descriptions, and cannot be copied for that reason.
+/// The description of an element that holds elements. It cannot be copied, since theirs belong to the reader's root.
 class VEK_API XMLStructureElement : public XMLElement
 {
 public:
@@ -39,12 +39,15 @@ protected:
 private:
     friend class XMLStreamer;
 
+    using Elements = std::vector<std::unique_ptr<XMLElement>>;
+
     void InsertElement(std::unique_ptr<XMLElement> element);
     XMLElement const* FindChildElement(std::string_view name) const;
 
     StreamerError& m_error;
     Internal::NameTable<XMLElement*> m_children;
-    std::vector<std::unique_ptr<XMLElement>> m_ownedElements; // refused ones included
+    Elements m_elements;            // of a root: all descriptions below it, refused ones included
+    Elements* m_home = &m_elements; // the root's, so that the end of a deep description takes no stack
     VersionedFunctionCollection<StructureHandler> m_onBegin;
     VersionedFunctionCollection<StructureHandler> m_onEnd;
 };

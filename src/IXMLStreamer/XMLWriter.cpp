@@ -30,6 +30,7 @@ public:
     {
         m_draft.text.clear();
         m_draft.phase = Phase::Running;
+        ++m_draft.number;
     }
     RunningOperation(RunningOperation const&) = delete;
     RunningOperation& operator=(RunningOperation const&) = delete;
@@ -38,6 +39,7 @@ public:
         constexpr std::size_t c_keptCapacity = 65536; // one long value must not cost memory for ever
         if (m_draft.text.capacity() > c_keptCapacity)
             std::string().swap(m_draft.text);
+        m_draft.lostAttribute = nullptr;
         m_draft.phase = Phase::Idle;
     }
 
@@ -122,12 +124,14 @@ bool XMLWriter::WriteEndStructure()
 
 bool XMLWriter::WriteContentValue(std::string const& name, std::string const& value, AttributeWriter const& attributes)
 {
-    return WriteText(name, value, attributes);
+    return WriteText(
+        name, [&value] { return std::string_view(value); }, attributes);
 }
 
 bool XMLWriter::WriteContentValue(std::string const& name, char const* value, AttributeWriter const& attributes)
 {
-    return WriteText(name, value == nullptr ? std::string_view() : std::string_view(value), attributes);
+    return WriteText(
+        name, [value] { return value == nullptr ? std::string_view() : std::string_view(value); }, attributes);
 }
 
 bool XMLWriter::WriteContentValue(std::string const& name, int value, AttributeWriter const& attributes)
@@ -147,12 +151,14 @@ bool XMLWriter::WriteContentValue(std::string const& name, double value, Attribu
 
 bool XMLWriter::WriteContentValue(std::string const& name, bool value, AttributeWriter const& attributes)
 {
-    return WriteText(name, value ? "1" : "0", attributes);
+    return WriteText(
+        name, [value] { return std::string_view(value ? "1" : "0"); }, attributes);
 }
 
 bool XMLWriter::WriteContent(std::string const& name, AttributeWriter const& attributes)
 {
-    return WriteText(name, std::string_view(), attributes);
+    return WriteText(
+        name, [] { return std::string_view(); }, attributes);
 }
 
 bool XMLWriter::WriteComment(std::string const& text)
@@ -207,8 +213,10 @@ bool XMLWriter::RaiseError(WriterError::ResultCode code)
     return false;
 }
 
+// `appendValue` answers false for an empty value. It is called when the attributes are through, since their writer may
+// change what the value is taken from.
 template <class AppendValue>
-bool XMLWriter::WriteInternalContentValue(std::string const& name, AppendValue const& appendValue, bool isEmpty,
+bool XMLWriter::WriteInternalContentValue(std::string const& name, AppendValue const& appendValue,
                                           AttributeWriter const& attributes)
 {
     if (!Admit(Operation::Content))
@@ -219,30 +227,37 @@ bool XMLWriter::WriteInternalContentValue(std::string const& name, AppendValue c
     AppendStartTag(name);
     if (!AppendAttributes(attributes))
         return false;
-    if (isEmpty)
-        m_draft.text += "/>\n";
-    else
-    {
-        m_draft.text += '>';
-        appendValue();
-        // From the start tag, since the attribute writer may have changed `name`.
+    std::size_t const tagEnd = m_draft.text.size();
+    m_draft.text += '>';
+    if (appendValue()) // the name from the start tag, since the attribute writer may have changed `name`
         m_draft.text.append("</").append(m_draft.text, nameStart, nameSize).append(">\n");
-    }
+    else
+        m_draft.text.replace(tagEnd, 1, "/>\n");
     SendDraft();
     return true;
 }
 
-bool XMLWriter::WriteText(std::string const& name, std::string_view value, AttributeWriter const& attributes)
+template <class GetText>
+bool XMLWriter::WriteText(std::string const& name, GetText const& getText, AttributeWriter const& attributes)
 {
-    return WriteInternalContentValue(
-        name, [&] { Internal::AppendEscaped(m_draft.text, value); }, value.empty(), attributes);
+    auto const append = [&]
+    {
+        std::string_view const value = getText();
+        Internal::AppendEscaped(m_draft.text, value);
+        return !value.empty();
+    };
+    return WriteInternalContentValue(name, append, attributes);
 }
 
 template <class Number>
 bool XMLWriter::WriteNumber(std::string const& name, Number value, AttributeWriter const& attributes)
 {
-    return WriteInternalContentValue(
-        name, [&] { Internal::AppendNumber(m_draft.text, *m_stream, value); }, false, attributes);
+    auto const append = [&]
+    {
+        Internal::AppendNumber(m_draft.text, *m_stream, value);
+        return true;
+    };
+    return WriteInternalContentValue(name, append, attributes);
 }
 
 void XMLWriter::AppendTabs(std::size_t count)
@@ -261,25 +276,43 @@ void XMLWriter::AppendStartTag(std::string const& name)
 bool XMLWriter::AppendAttributes(AttributeWriter const& attributes)
 {
     m_draft.phase = Phase::Attributes;
-    attributes([this](std::string const& name, std::string const& value) { EmitAttribute(name, value); });
+    attributes([this, number = m_draft.number](std::string const& name, std::string const& value)
+               { EmitAttribute(number, name, value); });
     m_draft.phase = Phase::Running;
+    if (m_draft.lostAttribute != nullptr)
+        std::rethrow_exception(m_draft.lostAttribute);
     if (m_state != Failed)
         return true;
     SendDraft();
     return false;
 }
 
-void XMLWriter::EmitAttribute(std::string const& name, std::string const& value)
+// `operation` is the one that the emitter was made for.
+void XMLWriter::EmitAttribute(unsigned long long operation, std::string const& name, std::string const& value)
 {
-    if (m_draft.phase != Phase::Attributes)
+    if (m_draft.phase != Phase::Attributes || m_draft.number != operation)
         RaiseError(WriterError::NestedOperation);
     else if (name.empty())
         RaiseError(WriterError::EmptyName);
     else
+        AppendAttribute(name, value);
+}
+
+// All of the attribute or nothing. An attribute writer may swallow the exception, but not the loss of the attribute.
+void XMLWriter::AppendAttribute(std::string const& name, std::string const& value)
+{
+    std::size_t const size = m_draft.text.size();
+    try
     {
         m_draft.text.append(1, ' ').append(name).append("=\"");
         Internal::AppendEscaped(m_draft.text, value);
         m_draft.text += '"';
+    }
+    catch (...)
+    {
+        m_draft.text.resize(size);
+        m_draft.lostAttribute = std::current_exception();
+        throw;
     }
 }
 

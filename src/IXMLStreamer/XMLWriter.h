@@ -4,6 +4,7 @@
 #include <VekApi.h>
 
 #include <cstddef>
+#include <exception>
 #include <functional>
 #include <ostream>
 #include <string>
@@ -34,9 +35,11 @@ concept NoContentValue = !ContentScalar<V> && (std::is_arithmetic_v<V> || std::i
 ///             operation until StartWriting. A host may therefore ask once, at FinishWriting.
 /// Attributes: an operation calls its AttributeWriter once, while the start tag is open, with an emitter to be called
 ///             once an attribute. Operations of this writer in there, assigning to it included, and an emitter that is
-///             kept and called later are misuse (NestedOperation); it must not outlive its writer. An AttributeWriter
-///             must not be empty (std::bad_function_call). What it throws passes through: nothing is written, and the
-///             writer is as before unless it had refused an attribute.
+///             kept and called later, be it in a later operation, are misuse (NestedOperation); it must not outlive its
+///             writer. An AttributeWriter must not be empty (std::bad_function_call). What it throws passes through:
+///             nothing is written, and the writer is as before unless it had refused an attribute. What the emitter
+///             throws, for want of memory, passes through even if the AttributeWriter catches it.
+/// Values:     content is taken when the attributes are through, so an AttributeWriter may still change it.
 /// Stream:     not owned, and must live until the last operation on it. Each operation hands its text over with one
 ///             unformatted write, so that width and fill of the stream do not touch texts. Whether the stream took it,
 ///             the stream says, not the writer. A stream that throws does so after the step: the element counts as
@@ -125,6 +128,8 @@ private:
 
         std::string text;
         Phase phase = Phase::Idle;
+        unsigned long long number = 0;    // of the operation; tells an emitter that was kept from the present one
+        std::exception_ptr lostAttribute; // why one could not be appended
     };
     class VEK_LOCAL RunningOperation;
 
@@ -133,15 +138,17 @@ private:
     bool RaiseError(WriterError::ResultCode code);
 
     template <class AppendValue>
-    VEK_LOCAL bool WriteInternalContentValue(std::string const& name, AppendValue const& appendValue, bool isEmpty,
+    VEK_LOCAL bool WriteInternalContentValue(std::string const& name, AppendValue const& appendValue,
                                              AttributeWriter const& attributes);
-    bool WriteText(std::string const& name, std::string_view value, AttributeWriter const& attributes);
+    template <class GetText>
+    VEK_LOCAL bool WriteText(std::string const& name, GetText const& getText, AttributeWriter const& attributes);
     template <class Number>
     VEK_LOCAL bool WriteNumber(std::string const& name, Number value, AttributeWriter const& attributes);
     void AppendTabs(std::size_t count);
     void AppendStartTag(std::string const& name);
     bool AppendAttributes(AttributeWriter const& attributes);
-    void EmitAttribute(std::string const& name, std::string const& value);
+    VEK_LOCAL void EmitAttribute(unsigned long long operation, std::string const& name, std::string const& value);
+    VEK_LOCAL void AppendAttribute(std::string const& name, std::string const& value);
     void SendDraft();
 
     std::size_t GetDepth() const { return m_nameStarts.size(); }

@@ -165,6 +165,26 @@ TEST(StateParserConsumers, OneMayReplaceItselfAndOthers)
     EXPECT_FALSE(t.state.HasEndOfSourceConsumer());
 }
 
+TEST(StateParserConsumers, WhatAReplacedOneHasCapturedMayReplaceAnother)
+{
+    Tracer t;
+    struct Guard
+    {
+        ~Guard()
+        {
+            for (int i = 0; i < 20; ++i)
+                state.RegisterEndOfSourceConsumer([text = std::string(100, 'x')](Params&) {});
+        }
+        State& state;
+    };
+    std::shared_ptr<Guard> guard(new Guard{ t.state });
+    t.state.RegisterTextConsumer([&t, guard](auto&, Params&) { t.state.RegisterTextConsumer({}); });
+    guard.reset();
+    EXPECT_TRUE(t.parser.ProcessSource("a<<<"));
+    EXPECT_EQ("<;<;<;", t.trace);
+    EXPECT_TRUE(t.state.HasEndOfSourceConsumer());
+}
+
 TEST(StateParserConsumers, OneMayRegisterTokensAndStates)
 {
     Tracer t;

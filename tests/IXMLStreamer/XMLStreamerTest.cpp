@@ -6,6 +6,8 @@
 
 #include <stdexcept>
 
+#include <pthread.h>
+
 using namespace XMLStreamerTests;
 
 namespace
@@ -93,6 +95,28 @@ TEST(XMLStreamer, RefusedDuplicateIsAnErrorUntilTheNextRun)
     EXPECT_EQ(StreamerError::DuplicateName, reader.streamer.GetError().GetErrorCode());
     EXPECT_TRUE(reader.Read(std::string(c_declaration) + "<settings><title>a</title></settings>"));
     EXPECT_EQ(StreamerError::Ok, reader.streamer.GetError().GetErrorCode());
+
+    reader.streamer.SetOnUnknownElement(1, [&](auto&) { return root.CreateContentElement("title"), true; });
+    EXPECT_FALSE(reader.Read(std::string(c_declaration) + "<settings><other/><title>&x;</title></settings>"));
+    EXPECT_EQ(StreamerError::InvalidCode, reader.streamer.GetError().GetErrorCode()) << "what ends the run counts";
+}
+
+TEST(XMLStreamer, DeepDescriptionsEndOnASmallStack)
+{
+    auto const describe = [](void*) -> void*
+    {
+        XMLStreamer streamer;
+        XMLStructureElement* element = &streamer.CreateRootStructureElement("a");
+        for (int depth = 0; depth < 100'000; ++depth)
+            element = &element->CreateStructureElement("a");
+        return nullptr;
+    };
+    pthread_attr_t attributes;
+    pthread_t thread;
+    ASSERT_EQ(0, pthread_attr_init(&attributes));
+    ASSERT_EQ(0, pthread_attr_setstacksize(&attributes, 256 * 1024));
+    ASSERT_EQ(0, pthread_create(&thread, &attributes, describe, nullptr));
+    EXPECT_EQ(0, pthread_join(thread, nullptr));
 }
 
 TEST(XMLStreamer, DepthAndLengthAreNotLimited)

@@ -147,6 +147,9 @@ TEST(XMLWriter, OperationInsideAnotherFailsTheWriter)
 
     EXPECT_TRUE(writer.StartWriting(stream, false));
     EXPECT_TRUE(writer.WriteBeginStructure("a", [&](Emitter const& emit) { kept = emit; }));
+    EXPECT_FALSE(writer.WriteContent("b", [&](Emitter const&) { kept("of another element", ""); }));
+    EXPECT_EQ(WriterError::NestedOperation, writer.GetLastError().GetErrorCode());
+    EXPECT_TRUE(writer.StartWriting(stream, false));
     kept("late", "");
     EXPECT_EQ(WriterError::NestedOperation, writer.GetLastError().GetErrorCode());
 }
@@ -165,16 +168,18 @@ TEST(XMLWriter, ExceptionOfAnAttributeWriterLeavesTheWriterAsItWas)
     EXPECT_EQ("<a>\n\t<b>1</b>\n\t<b/>\n</a>\n", stream.str());
 }
 
-TEST(XMLWriter, EndTagHasTheNameOfItsStartTag)
+TEST(XMLWriter, AttributeWriterMayChangeTheValueButNotTheName)
 {
     std::ostringstream stream;
     XMLWriter writer;
     std::string name = "first";
-    auto const rename = [&name](Emitter const&) { name = "a much longer name than that"; };
-    EXPECT_TRUE(writer.StartWriting(stream, false) && writer.WriteBeginStructure(name, rename));
+    std::string value(100, 'x');
+    auto const change = [&](Emitter const&) { name = value = "a much longer one than that"; };
+    EXPECT_TRUE(writer.StartWriting(stream, false) && writer.WriteBeginStructure(name, change));
     name = "second";
-    EXPECT_TRUE(writer.WriteContentValue(name, "x", rename) && End(writer));
-    EXPECT_EQ("<first>\n\t<second>x</second>\n</first>\n", stream.str());
+    value = "";
+    EXPECT_TRUE(writer.WriteContentValue(name, value, change) && End(writer));
+    EXPECT_EQ("<first>\n\t<second>a much longer one than that</second>\n</first>\n", stream.str());
 }
 
 TEST(XMLWriter, FailedStreamIsTheStreamsToReport)

@@ -179,7 +179,7 @@ void XMLStreamer::Reader::BeginNumericCode(Params& params)
 
 void XMLStreamer::Reader::RefuseHexadecimalCode(Params& params)
 {
-    RaiseError(StreamerError::HexadecimalCodeNotSupported, "", params);
+    RaiseError(StreamerError::HexadecimalCodeNotSupported, c_numericCode, params);
 }
 
 void XMLStreamer::Reader::SetCode(std::string_view code, Params&)

@@ -81,9 +81,15 @@ void XMLStreamer::Reader::Reset()
     m_openElements.Clear();
 }
 
+// A child that a handler registers twice leaves an error, but does not end the run; what ends it counts.
+bool XMLStreamer::Reader::HasFailed() const
+{
+    return m_error.GetErrorCode() != StreamerError::Ok && m_error.GetErrorCode() != StreamerError::DuplicateName;
+}
+
 void XMLStreamer::Reader::RaiseError(ParserResult const& result)
 {
-    if (m_error.GetErrorCode() != StreamerError::Ok)
+    if (HasFailed())
         return;
     Internal::ParserError const error = Internal::FindParserError(result.resultCode, result.stateId);
     if (error.code != StreamerError::Ok)
@@ -92,7 +98,7 @@ void XMLStreamer::Reader::RaiseError(ParserResult const& result)
 
 void XMLStreamer::Reader::RaiseError(StreamerError::ResultCode code, std::string const& expectedSymbol, Params& params)
 {
-    if (m_error.GetErrorCode() == StreamerError::Ok)
+    if (!HasFailed())
         m_error.RaiseError(code, -1, -1, expectedSymbol);
     params.isSyntaxError = true;
 }

@@ -101,6 +101,7 @@ private:
     void AppendDecoded(char symbol, Params& params);
 
     void Reset();
+    bool HasFailed() const;
     void RaiseError(IParser::Native::ParserResult const& result);
     void RaiseError(StreamerError::ResultCode code, std::string const& expectedSymbol, Params& params);
     void RequireAgreement(bool isAgreed, Params& params);
