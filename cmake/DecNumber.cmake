@@ -36,10 +36,10 @@ set(VEK_DECNUMBER_CONFIG ${PROJECT_BINARY_DIR}/decnumber/config)
 file(CONFIGURE OUTPUT ${VEK_DECNUMBER_CONFIG}/config.h CONTENT "")
 file(CONFIGURE OUTPUT ${VEK_DECNUMBER_CONFIG}/gstdint.h CONTENT "#include <stdint.h>\n")
 
-# Makes a static library of some of its sources.
+# Makes an object library of some of its sources, so that they end up in whatever links it, a static library included.
 function(vek_add_decnumber target)
     list(TRANSFORM ARGN PREPEND ${VEK_DECNUMBER_DIR}/)
-    add_library(${target} STATIC EXCLUDE_FROM_ALL ${ARGN})
+    add_library(${target} OBJECT EXCLUDE_FROM_ALL ${ARGN})
     target_include_directories(${target} SYSTEM PUBLIC
         ${VEK_DECNUMBER_CONFIG} ${VEK_DECNUMBER_DIR} ${VEK_DECNUMBER_DIR}/dpd)
     # Without the digits, the size of a number would depend on the order in which its headers are included.
@@ -47,9 +47,6 @@ function(vek_add_decnumber target)
     set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON C_VISIBILITY_PRESET hidden)
     target_compile_options(${target} PRIVATE $<$<NOT:$<C_COMPILER_ID:MSVC>>:-O2>)
     target_compile_options(${target} PRIVATE $<IF:$<C_COMPILER_ID:MSVC>,/W0,-w>) # it defines DECNUMDIGITS again
-    if(VEK_SANITIZE OR VEK_BUILD_FUZZERS) # it shifts signed numbers and reads beyond buffers of its own, by design
-        target_compile_options(${target} PRIVATE -fno-sanitize=all)
-    endif()
 endfunction()
 
 vek_add_decnumber(decNumber decContext.c decNumber.c dpd/decimal128.c dpd/decimal64.c)

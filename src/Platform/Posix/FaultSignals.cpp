@@ -1,5 +1,7 @@
 #include <Platform/Posix/FaultSignals.h>
 
+#include <dlfcn.h>
+
 namespace Vek::Platform
 {
 namespace
@@ -9,10 +11,19 @@ constexpr int c_faultSignals[] = { SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP };
 
 constinit struct sigaction s_previous[NSIG] = {}; // by signal number
 
+// The system calls the handlers for as long as the process runs, so what holds them stays loaded from now on.
+void StayLoaded()
+{
+    Dl_info module;
+    if (dladdr(s_previous, &module) != 0)
+        dlopen(module.dli_fname, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
+}
+
 // The previous action is known before the handler can run: another thread may fault at any time.
 // sigaction cannot fail here: the signals exist and may be handled.
 bool Install(FaultHandler handler)
 {
+    StayLoaded();
     struct sigaction action = {};
     action.sa_sigaction = handler;
     action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_NODEFER;
