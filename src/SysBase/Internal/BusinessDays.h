@@ -1,0 +1,40 @@
+// Steps over free days. Days are counted on the endless Gregorian calendar, a year at a time.
+#pragma once
+
+#include <SysBase/Internal/BusinessYear.h>
+#include <SysBase/Internal/DayNumbers.h>
+
+namespace VekSysBase::Internal
+{
+
+/// A day by its year and its place in it, from 0 for 1 January.
+struct YearDay
+{
+    long long year;
+    int index;
+};
+
+/// Of an invalid date, the day that VekDateEx::AddDays starts from.
+YearDay GetYearDay(VekDateEx const& date);
+/// A year outside 0 to 65535 keeps its low 16 bits.
+VekDateEx GetDate(YearDay day);
+YearDay Add(YearDay day, long long days);
+
+inline bool Contains(FreeDays kind, YearDay day)
+{
+    return GetBusinessYear(day.year).Get(kind).Contains(day.index);
+}
+
+/// Whether the date is in the set. An invalid date is no holiday, but has a weekday.
+bool Contains(FreeDays kind, VekDateEx const& date);
+
+/// How many of the `days` days from `first` on are in the set.
+long long Count(FreeDays kind, YearDay first, long long days);
+
+/// The day itself, or the nearest one in the direction (1 or -1) that is not in the set.
+YearDay FindOutside(FreeDays kind, YearDay day, int direction);
+
+/// The n-th day outside the set, after `day` or, for a negative number, before it; `day` itself for 0.
+YearDay AddOutside(FreeDays kind, YearDay day, long long number);
+
+} // namespace VekSysBase::Internal

@@ -1,0 +1,65 @@
+#include <SysBase/VekDateEnv.h>
+
+#include <SysBase/Internal/BusinessDays.h>
+
+namespace VekSysBase
+{
+
+namespace
+{
+
+using namespace Internal;
+
+VekDateEx GetNext(FreeDays kind, VekDateEx const& date, unsigned int days)
+{
+    YearDay const first = GetYearDay(date);
+    bool const isFirstFree = Contains(kind, date);
+    if (days == 0 && !isFirstFree)
+        return date; // as it is, also if it is invalid
+    // The first day counts apart: an invalid date may stand for a holiday, but is none.
+    long long const freeDays = (isFirstFree ? 1 : 0) + Count(kind, first, days + 1LL) - (Contains(kind, first) ? 1 : 0);
+    return GetDate(FindOutside(kind, Add(first, days + freeDays), 1));
+}
+
+} // namespace
+
+VekDateEx VekDateEnv::GetOstersonntag(unsigned int year) const noexcept
+{
+    int const day = 22 + static_cast<int>(GetEaster(year)); // of March, running on into April
+    auto const storedYear = static_cast<int>(year & 0xFFFF);
+    return day <= 31 ? VekDateEx(day, 3, storedYear) : VekDateEx(day - 31, 4, storedYear);
+}
+
+bool VekDateEnv::IsFeiertag(VekDateEx const& date) const noexcept
+{
+    return Contains(FreeDays::Feiertag, date);
+}
+
+VekDateEx VekDateEnv::GetNextWerktag(VekDateEx const& date, unsigned int days) const noexcept
+{
+    return GetNext(FreeDays::Werktag, date, days);
+}
+
+VekDateEx VekDateEnv::GetNextBankwerktag(VekDateEx const& date, unsigned int days) const noexcept
+{
+    return GetNext(FreeDays::Bankwerktag, date, days);
+}
+
+VekDateEx VekDateEnv::GetCurrentOrPreviousBankwerktag(VekDateEx const& date) const noexcept
+{
+    if (!Contains(FreeDays::Bankwerktag, date))
+        return date;
+    return GetDate(FindOutside(FreeDays::Bankwerktag, Add(GetYearDay(date), -1), -1));
+}
+
+bool VekDateEnv::GetFreeWerktag(VekDateEx const& date) const noexcept
+{
+    return Contains(FreeDays::Werktag, date);
+}
+
+bool VekDateEnv::GetFreeBankwerktag(VekDateEx const& date) const noexcept
+{
+    return Contains(FreeDays::Bankwerktag, date);
+}
+
+} // namespace VekSysBase
