@@ -61,7 +61,10 @@ bool CommaSeparatedValueReader::MoveNext()
             return true;
         }
         if (stop + 1 == end)
+        {
+            m_position = m_text.size();
             throw std::out_of_range("invalid string position");
+        }
         m_currentValue += stop[1];
         at = stop + 2;
         if (at == end)

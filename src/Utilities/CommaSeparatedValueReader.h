@@ -9,6 +9,9 @@ namespace Vek::Framework::Utilities
 
 /// Splits a line as CommaSeparatedValueWriter makes it: every value ends with the separator, a backslash takes the next
 /// unit as it is. A last value without a separator counts as well; a separator at the end begins no further value.
+///
+/// There are no quotes: a quotation mark is a character like any other, so that "a;b" in quotes is two values. Lines of
+/// spreadsheet programs, which quote, are another format; a caller who may get one must look for quotation marks.
 class VEK_API CommaSeparatedValueReader
 {
 public:
@@ -21,7 +24,7 @@ public:
 
     /// Reads the next value; false, with an empty current value, when nothing is left.
     /// A backslash that ends the text throws std::out_of_range ("invalid string position"): the current value is what
-    /// stands before it then, and the reader stays in front of it, so that ReadRest still gives it.
+    /// stands before it then, and nothing is left, so that the next call answers false.
     bool MoveNext();
 
     /// The value of the last MoveNext or ReadRest; valid until the next one.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <list>
 #include <utility>
 
@@ -10,10 +11,11 @@ namespace Vek::Framework::Utilities
 
 /// An ordered list of handlers that are called with an argument when the event is raised.
 ///
-/// Handlers: called in the order of their registration, on the thread that raises.
-///           One may add handlers, which are called from the next raise on, raise the event again, and remove itself or
-///           any other: a removed one is not called any more, and one that is running lives until all raises have
-///           ended. One that throws ends the raise; the exception passes through.
+/// Handlers: called in the order of their registration, on the thread that raises. The next one is taken from the list
+///           before each call, so that the raise reaches what any but the last one adds; handlers that add ever more
+///           keep it going for ever. A handler may raise the event again, and remove itself or any other: a removed one
+///           is not called any more, and one that is running lives until all raises have ended. One that throws ends
+///           the raise; the exception passes through.
 /// Const:    adding and removing do not change what the owner sees of its event, so a const reference is enough.
 /// Lifetime: the event must outlive its raises. Not copied: tokens belong to one event.
 template <class T>
@@ -57,12 +59,11 @@ public:
     void Raise(T argument) const
     {
         ActiveRaise const raise(*this);
-        Token const last = m_lastToken;
-        for (Node const& node : m_nodes)
+        for (auto next = FindPresent(m_nodes.begin()); next != m_nodes.end();)
         {
-            if (node.token > last)
-                break;
-            if (!node.isRemoved)
+            Node const& node = *next;
+            next = FindPresent(std::next(next));
+            if (!node.isRemoved) // by the handler before
                 node.handler(argument);
         }
     }
@@ -90,6 +91,11 @@ private:
     private:
         Event const& m_owner;
     };
+
+    auto FindPresent(typename std::list<Node>::iterator from) const
+    {
+        return std::find_if(from, m_nodes.end(), [](Node const& node) { return !node.isRemoved; });
+    }
 
     mutable std::list<Node> m_nodes; // a node stays where it is while others come and go
     mutable Token m_lastToken{};

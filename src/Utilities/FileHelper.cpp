@@ -8,6 +8,7 @@
 #include <Utilities/Internal/TextFile.h>
 
 #include <algorithm>
+#include <cstring>
 #include <optional>
 #include <string_view>
 
@@ -26,6 +27,30 @@ void RequireExisting(std::wstring const& path)
 {
     if (!FileHelper::Exists(path))
         throw ArgumentException();
+}
+
+/// What follows the size that the system gave, which may be anything: some file systems say 0, and files grow.
+/// Nothing for a failure.
+std::optional<std::string> ReadRest(Platform::InputFile const& file)
+{
+    char piece[4096];
+    std::string rest;
+    while (true)
+    {
+        std::optional<unsigned long long> const read = file.Read(piece, sizeof piece);
+        if (!read)
+            return std::nullopt;
+        rest.append(piece, *read);
+        if (*read < sizeof piece)
+            return rest;
+    }
+}
+
+std::shared_ptr<SizedArray<unsigned char>> Join(SizedArray<unsigned char> const& content, std::string const& rest)
+{
+    auto joined = std::make_shared<SizedArray<unsigned char>>(content.GetSize() + rest.size(), content);
+    std::memcpy(joined->GetData() + content.GetSize(), rest.data(), rest.size());
+    return joined;
 }
 
 bool HasEqualText(TextFile& first, TextFile& second)
@@ -108,7 +133,12 @@ std::shared_ptr<SizedArray<unsigned char>> FileHelper::ReadBinary(std::wstring c
     if (!size)
         return nullptr;
     auto content = std::make_shared<SizedArray<unsigned char>>(*size);
-    return file.Read(content->GetData(), *size) == size ? content : nullptr;
+    std::optional<unsigned long long> const read = file.Read(content->GetData(), *size);
+    std::optional<std::string> const rest = read ? ReadRest(file) : std::nullopt;
+    if (!rest)
+        return nullptr;
+    content->SetReportedSize(*read);
+    return rest->empty() ? content : Join(*content, *rest);
 }
 
 std::wstring FileHelper::GetFilename(std::wstring const& path)

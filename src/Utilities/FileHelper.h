@@ -42,9 +42,10 @@ public:
     /// an empty path and a missing parent.
     static bool EnsureDirectoryExists(std::wstring const& path);
 
-    /// Copies a file. False when `target` exists and may not be overwritten, and for every failure: `source` missing, a
-    /// directory, or the same file as `target`. A disk that fails or fills up while an existing `target` is overwritten
-    /// leaves it incomplete.
+    /// Copies a file to its end, whatever size the system tells. False when `target` exists and may not be overwritten,
+    /// and for every failure: `source` missing, a directory, or the same file as `target`. When the disk fails or fills
+    /// up, a new `target` is deleted; one that is being overwritten stays incomplete.
+    /// On Linux `target` gets the permissions of `source`, as far as its file system takes them.
     static bool Copy(std::wstring const& source, std::wstring const& target, bool overwrite);
 
     /// Deletes a file; directories stay. Reports nothing: ask GetExistenceState if it matters.
@@ -56,8 +57,8 @@ public:
     /// that cannot be read: a directory, a pipe or a device, none of which is waited for. `first` is looked at first.
     static bool HasEqualContent(std::wstring const& first, std::wstring const& second);
 
-    /// All bytes of a file; null when it cannot be read: missing, a directory, a pipe, a device, locked by another.
-    /// Throws std::bad_alloc when the memory does not hold it.
+    /// All bytes of a file, whatever size the system tells; null when it cannot be read: missing, a directory, a pipe,
+    /// a device, locked by another. Throws std::bad_alloc when the memory does not hold it.
     static std::shared_ptr<SizedArray<unsigned char>> ReadBinary(std::wstring const& path);
 
     /// What follows the last '\\'; '/' does not separate, on any platform. A path without '\\', or with one at its end,

@@ -21,22 +21,28 @@ public:
     {
         if (index >= text.size() / 2)
             Refuse(text, index);
-        unsigned const value = GetValue(text[2 * index]) << 4 | GetValue(text[2 * index + 1]);
-        if (value > 0xFF)
+        unsigned const high = static_cast<unsigned>(text[2 * index]);
+        unsigned const low = static_cast<unsigned>(text[2 * index + 1]);
+        if ((IsDigit(high) & IsDigit(low)) == 0)
             Refuse(text, index);
-        return static_cast<unsigned char>(value);
+        return static_cast<unsigned char>(GetValue(high) << 4U | GetValue(low));
     }
 
 private:
-    /// 0 to 15; more than 255 for what is no digit. Without branches, which nobody could foretell.
-    static unsigned GetValue(wchar_t digit) noexcept
+    /// 1 for a digit, else 0. By borrows, since a compiler makes branches of comparisons, and which digit comes next
+    /// no processor can foretell.
+    static unsigned IsDigit(unsigned unit) noexcept
     {
-        unsigned const unit = static_cast<unsigned>(digit);
-        unsigned const decimal = unit - U'0';
-        unsigned const letter = (unit | 0x20U) - U'a';
-        unsigned const hexadecimal = letter < 6 ? letter + 10 : 0x100;
-        return decimal < 10 ? decimal : hexadecimal;
+        return IsBelow(unit - U'0', 10) | IsBelow((unit | 0x20U) - U'a', 6);
     }
+
+    static unsigned IsBelow(unsigned value, unsigned limit) noexcept
+    {
+        return static_cast<unsigned>((static_cast<unsigned long long>(value) - limit) >> 63U);
+    }
+
+    /// Of a digit: the bit 0x40 tells the letters, which begin at 0x41 and 0x61.
+    static unsigned GetValue(unsigned digit) noexcept { return (digit & 0x0FU) + 9 * (digit >> 6U); }
 
     [[noreturn]] static void Refuse(std::wstring const& text, unsigned long long index);
 };

@@ -134,14 +134,15 @@ public:
     static bool IsNumber(std::wstring const& text, Nullable<wchar_t> separator, bool allowNegative);
     static bool IsInteger(std::wstring const& text, bool allowNegative);
 
-    /// The decimal number in front: white space of ASCII, a sign, digits up to the first unit that is none. 0 without
-    /// digits; the nearest int for a value out of range.
+    /// The decimal number in front: white space as Unicode defines it (also the no-break space), a sign, digits of
+    /// ASCII up to the first unit that is none. 0 without digits; the nearest int for a value out of range.
     static int ParseInt(std::wstring const& text) noexcept;
 
     /// Removes the elements equal to `item`, which may lie in `list`, and answers how many there were.
     static unsigned long long RemoveFromList(std::vector<std::wstring>& list, std::wstring const& item);
 
-    /// Two upper-case digits a byte. `data` may be null when `size` is 0, else NullPointerException is thrown.
+    /// Two upper-case digits a byte. `data` may be null when `size` is 0, else NullPointerException is thrown; it may
+    /// lie in `target`.
     static std::wstring GetHex(unsigned char const* data, unsigned int size);
     static void AppendHex(unsigned char const* data, unsigned int size, std::wstring& target);
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <limits>
 
 namespace Vek::Framework::Utilities
@@ -19,9 +20,15 @@ bool IsDigit(wchar_t unit) noexcept
     return unit >= L'0' && unit <= L'9';
 }
 
-bool IsWhitespace(wchar_t unit) noexcept
+/// Unicode's property White_Space (PropList.txt).
+bool IsWhitespace(wchar_t element) noexcept
 {
-    return unit == L' ' || (unit >= L'\t' && unit <= L'\r');
+    std::uint32_t const unit = Platform::ToUnsigned(element);
+    if (unit < 0x1680)
+        return unit == ' ' || unit - '\t' < 5 || unit == 0x85 || unit == 0xA0;
+    if (unit - 0x2000 <= 0x2F)
+        return unit <= 0x200A || unit == 0x2028 || unit == 0x2029 || unit == 0x202F;
+    return unit == 0x1680 || unit == 0x205F || unit == 0x3000;
 }
 
 /// The digits at `digit`, at most `limit`. They end at the terminator of the text at the latest.
@@ -56,6 +63,14 @@ void StoreHexBlock(__m128i bytes, wchar_t* target) noexcept
     __m128i const low = GetHexDigits(_mm_and_si128(bytes, nibble));
     Platform::StoreWidened(target, _mm_unpacklo_epi8(high, low));
     Platform::StoreWidened(target + c_hexBlockSize, _mm_unpackhi_epi8(high, low));
+}
+
+/// True for an address within the text's own memory, which moves when the text grows.
+bool LiesIn(std::wstring const& text, unsigned char const* data) noexcept
+{
+    auto const* const begin = reinterpret_cast<unsigned char const*>(text.data());
+    auto const* const end = reinterpret_cast<unsigned char const*>(text.data() + text.size());
+    return std::less_equal<>()(begin, data) && std::less<>()(data, end);
 }
 
 void StoreHex(unsigned char const* data, std::size_t size, wchar_t* target) noexcept
@@ -101,7 +116,7 @@ bool WStringHelper::IsInteger(std::wstring const& text, bool allowNegative)
 
 int WStringHelper::ParseInt(std::wstring const& text) noexcept
 {
-    // Not the runtime's: its white space depends on the process locale and differs between systems.
+    // Not the runtime's: what it takes for white space depends on the process locale and differs between systems.
     using Limits = std::numeric_limits<std::int32_t>;
     wchar_t const* at = std::find_if_not(text.c_str(), text.c_str() + text.size(), IsWhitespace);
     bool const isNegative = *at == L'-';
@@ -130,6 +145,11 @@ void WStringHelper::AppendHex(unsigned char const* data, unsigned int size, std:
         return;
     if (data == nullptr)
         throw NullPointerException();
+    if (LiesIn(target, data))
+    {
+        std::vector<unsigned char> const copy(data, data + size);
+        return AppendHex(copy.data(), size, target);
+    }
     target.reserve(target.size() + 2 * static_cast<std::size_t>(size));
     for (std::size_t at = 0; at < size; at += c_hexPieceSize)
     {

@@ -10,6 +10,8 @@
 
 #include <pthread.h>
 #include <signal.h>
+#include <sys/ptrace.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 // What ExecuteSafe does to the signals of the process. Each death test runs in a process of its own, in which the guard
@@ -37,6 +39,15 @@ void Handle(int signal, void (*handler)(int), int flags = 0)
 
 void ExitAsHandled(int)
 {
+    _exit(c_hostHandled);
+}
+
+// As a crash handler that formats its report in local arrays.
+FAULTS_ON_PURPOSE void ExitAfterMuchWork(int)
+{
+    char volatile report[900 * 1024];
+    for (std::size_t at = sizeof report; at != 0; at -= 1024)
+        report[at - 1] = 1;
     _exit(c_hostHandled);
 }
 
@@ -103,6 +114,7 @@ TEST_F(ExceptionHandlerDeathTest, WhatNoGuardTakesIsForTheHandlerFromBefore)
         { "once without effect, then deadly", SIGSEGV, [](int) {}, static_cast<int>(SA_RESETHAND), Faults::WriteNull,
           0 },
         { "the host's", SIGSEGV, ExitAsHandled, 0, Faults::WriteNull, c_hostHandled },
+        { "the host's, which needs much stack", SIGSEGV, ExitAfterMuchWork, 0, Faults::WriteNull, c_hostHandled },
         { "a guard of another thread", SIGSEGV, ExitAsHandled, 0,
           [] { Execute([] { std::thread(Faults::WriteNull).join(); }); }, c_hostHandled },
         { "sent to the program, no fault of the action", SIGSEGV, ExitAsHandled, 0,
@@ -122,6 +134,30 @@ TEST_F(ExceptionHandlerDeathTest, WhatNoGuardTakesIsForTheHandlerFromBefore)
         else
             EXPECT_EXIT(die(), testing::ExitedWithCode(row.code), "") << row.why;
     }
+}
+
+// What a core file would hold, as seen by the tracer of a process that faults outside of the guard.
+TEST_F(ExceptionHandlerDeathTest, TheSystemsAnswerGetsTheFaultItself)
+{
+    auto const traceFault = []
+    {
+        Handle(SIGSEGV, SIG_DFL);
+        UseGuard();
+        pid_t const child = fork();
+        if (child == 0)
+        {
+            ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+            Faults::WriteNull();
+        }
+        waitpid(child, nullptr, 0); // stopped before our handler
+        ptrace(PTRACE_CONT, child, nullptr, SIGSEGV);
+        waitpid(child, nullptr, 0); // and before the system's answer
+        siginfo_t info = {};
+        ptrace(PTRACE_GETSIGINFO, child, nullptr, &info);
+        kill(child, SIGKILL);
+        _exit(info.si_signo == SIGSEGV && info.si_code == SEGV_MAPERR ? c_hostHandled : 1);
+    };
+    EXPECT_EXIT(traceFault(), testing::ExitedWithCode(c_hostHandled), "");
 }
 
 TEST_F(ExceptionHandlerDeathTest, LeavingThreadPassesThroughAndTakesItsGuardAlong)

@@ -4,8 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <stdexcept>
 #include <string>
+#include <type_traits>
+#include <utility>
 
 using namespace Vek::Framework::Utilities;
 
@@ -24,6 +27,43 @@ TEST(Nullable, HoldsTypesWithoutDefaultConstructor)
     nullable = NoDefault(3);
     EXPECT_EQ(3, nullable.GetValue().value);
     EXPECT_TRUE(nullable == NoDefault(3) && nullable != NoDefault(4) && nullable != Nullable<NoDefault>());
+}
+
+TEST(Nullable, KeepsTheFlagThenTheValue)
+{
+    struct Layout
+    {
+        bool hasValue;
+        long long value;
+    };
+    static_assert(sizeof(Layout) == sizeof(Nullable<long long>) && std::is_trivially_copyable_v<Nullable<long long>>);
+    Nullable<long long> const number = 5; // what makes the value makes the Nullable
+    EXPECT_EQ(5, reinterpret_cast<Layout const&>(number).value);
+    EXPECT_TRUE(reinterpret_cast<bool const&>(number));
+    EXPECT_FALSE(Nullable<std::string>(std::string("a")) == Nullable<std::string>(std::string("b")));
+}
+
+TEST(Nullable, CopiesAndMovesWhatItHolds)
+{
+    using Shared = std::shared_ptr<int>;
+    Shared const value = std::make_shared<int>(1);
+    Nullable<Shared> first = value;
+    Nullable<Shared> second = first;
+    EXPECT_EQ(3, value.use_count());
+    Nullable<Shared> third = std::move(second);
+    second = Nullable<Shared>(value);
+    second = std::as_const(second);
+    EXPECT_EQ(4, value.use_count());
+    first = Nullable<Shared>();
+    third = first;
+    EXPECT_TRUE(first == third && third != second);
+    EXPECT_EQ(2, value.use_count());
+
+    Nullable<std::unique_ptr<int>> owner = std::make_unique<int>(2);
+    Nullable<std::unique_ptr<int>> next = std::move(owner);
+    owner = std::move(next);
+    EXPECT_EQ(2, *owner.GetValue());
+    static_assert(!std::is_copy_constructible_v<Nullable<std::unique_ptr<int>>>);
 }
 
 TEST(Event, HandlersMayChangeTheListWhileItIsRaised)
@@ -51,10 +91,24 @@ TEST(Event, HandlersMayChangeTheListWhileItIsRaised)
     next = event.Add(note(" next"));
     event.Add(note(" last"));
     event.Raise(1);
-    EXPECT_EQ("100 last7 last1", trace);
+    EXPECT_EQ("100 last7 late7 last1 late1 late1", trace);
     trace.clear();
     event.Raise(2);
-    EXPECT_EQ(" last2 late2 late2", trace);
+    EXPECT_EQ(" last2 late2 late2 late2", trace);
+}
+
+TEST(Event, WhatTheLastHandlerAddsWaitsForTheNextRaise)
+{
+    Event<int> const event;
+    int calls = 0;
+    Event<int>::Token behind{};
+    event.Add([&](int) { event.Remove(behind); });
+    event.Add([&](int) { event.Add([&](int) { ++calls; }); });
+    behind = event.Add([](int) {}); // removed before the handler in front of it runs, which is the last one then
+    event.Raise(0);
+    EXPECT_EQ(0, calls);
+    event.Raise(0);
+    EXPECT_EQ(2, calls);
 }
 
 TEST(Event, AnExceptionEndsTheRaiseAndLeavesTheEventUsable)

@@ -4,6 +4,8 @@
 #include <Exceptions/InvalidStateException.h>
 #include <Utilities/FileHelper.h>
 
+#include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace Vek::Framework::Utilities;
@@ -30,6 +32,48 @@ TEST(FileHelperPosix, LinksExistWhereverTheyLead)
     EXPECT_NE(FileHelper::ReadBinary(folder.At(L"link")), nullptr);
     EXPECT_TRUE(FileHelper::Exists(folder.At(L"dangling")));
     EXPECT_EQ(FileHelper::ReadBinary(folder.At(L"dangling")), nullptr);
+}
+
+TEST(FileHelperPosix, AFullDiskLeavesNoNewFile)
+{
+    TemporaryFolder const folder;
+    std::wstring const source = folder.Write("source", std::string(100'000, 'x'));
+    std::wstring const present = folder.Write("present", "old");
+    rlimit before = {};
+    getrlimit(RLIMIT_FSIZE, &before);
+    rlimit const small = { 50'000, before.rlim_max };
+    auto const handler = signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_FALSE(FileHelper::Copy(source, folder.At(L"new"), false));
+    EXPECT_FALSE(FileHelper::Copy(source, present, true));
+    setrlimit(RLIMIT_FSIZE, &before);
+    signal(SIGXFSZ, handler);
+    EXPECT_FALSE(FileHelper::Exists(folder.At(L"new")));
+    EXPECT_TRUE(FileHelper::Exists(present)) << "what was there stays, incomplete";
+}
+
+TEST(FileHelperPosix, ReadsFilesWhoseSizeIsGivenAsZero)
+{
+    TemporaryFolder const folder;
+    auto const content = FileHelper::ReadBinary(L"/proc/self/maps");
+    ASSERT_NE(content, nullptr);
+    EXPECT_GT(content->GetSize(), 4096U);
+    ASSERT_TRUE(FileHelper::Copy(L"/proc/version", folder.At(L"copy"), false));
+    EXPECT_TRUE(FileHelper::HasEqualContent(L"/proc/version", folder.At(L"copy")));
+    EXPECT_GT(FileHelper::ReadBinary(folder.At(L"copy"))->GetSize(), 0U);
+}
+
+TEST(FileHelperPosix, CopiesPermissionsButNeverOntoTheSameFile)
+{
+    TemporaryFolder const folder;
+    std::wstring const source = folder.Write("source", "x");
+    chmod((folder.GetPath() / "source").c_str(), 0640);
+    std::wstring const target = folder.Write("target", "y");
+    EXPECT_TRUE(FileHelper::Copy(source, target, true));
+    EXPECT_EQ(static_cast<int>(std::filesystem::status(folder.GetPath() / "target").permissions()), 0640);
+    std::filesystem::create_hard_link(folder.GetPath() / "source", folder.GetPath() / "same");
+    EXPECT_FALSE(FileHelper::Copy(source, folder.At(L"same"), true));
+    EXPECT_EQ(FileHelper::ReadBinary(source)->GetSize(), 1U);
 }
 
 TEST(FileHelperPosix, NamesThatUtf8CannotHoldNameNothing)

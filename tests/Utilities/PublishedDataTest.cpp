@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <fstream>
 #include <map>
 #include <set>
@@ -162,6 +163,26 @@ TEST(PublishedData, LowerCaseIsSimpleCaseFoldingButForNamedUnits)
         EXPECT_EQ(lower == WStringHelper::ToLowerCase(static_cast<wchar_t>(folded)),
                   WStringHelper::EqualsIgnoreCase(MakeText({ unit }), MakeText({ folded })))
             << std::hex << unit << " and " << folded;
+    }
+}
+
+TEST(PublishedData, ParseIntSkipsWhiteSpaceOnly)
+{
+    std::set<unsigned> whiteSpace;
+    for (std::string const& line : ReadLines("PropList.txt"))
+    {
+        unsigned first = 0;
+        unsigned last = 0;
+        bool const isRange = std::sscanf(line.c_str(), "%4x..%4x", &first, &last) == 2;
+        if (line.find("; White_Space") != std::string::npos && std::sscanf(line.c_str(), "%4x", &first) == 1)
+            for (unsigned unit = first; unit <= (isRange ? last : first); ++unit)
+                whiteSpace.insert(unit);
+    }
+    ASSERT_EQ(25U, whiteSpace.size());
+    for (unsigned unit = 0; unit <= 0xFFFF; ++unit)
+    {
+        int const digit = unit >= '0' && unit <= '9' ? static_cast<int>(unit) - '0' : 0;
+        EXPECT_EQ(whiteSpace.contains(unit) ? 7 : digit, WStringHelper::ParseInt(MakeText({ unit, '+', '7' }))) << unit;
     }
 }
 

@@ -104,7 +104,7 @@ TEST(WStringHelper, TellsAndParsesNumbers)
         { L"2147483647", INT_MAX }, { L"2147483648", INT_MAX }, { L"-2147483647", -INT_MAX },
         { L"-2147483648", INT_MIN }, { L"-2147483649", INT_MIN },
         { std::wstring(100, L'9'), INT_MAX }, { L"-" + std::wstring(100, L'0') + L"1", -1 },
-        { MakeText({ 0xA0, '1' }), 0 }, // the same in every process locale
+        { MakeText({ 0xFF11 }), 0 }, { MakeText({ '1', 0xA0, '2' }), 1 },
     };
     // clang-format on
     for (auto const& row : values)
@@ -124,6 +124,9 @@ TEST(WStringHelper, Edits)
     unsigned char const bytes[] = { 0x00, 0xAB, 0xFF };
     WStringHelper::AppendHex(bytes, 3, text);
     EXPECT_EQ(L"b00ABFF", text);
+    std::wstring grown(100, L'A');
+    WStringHelper::AppendHex(reinterpret_cast<unsigned char const*>(grown.data() + 99), 1, grown);
+    EXPECT_EQ(std::wstring(100, L'A') + L"41", grown) << "bytes of the text itself";
     EXPECT_EQ(L"", WStringHelper::GetHex(nullptr, 0));
     EXPECT_THROW(WStringHelper::GetHex(nullptr, 1), Vek::NullPointerException);
 }

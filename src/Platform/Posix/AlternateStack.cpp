@@ -11,7 +11,9 @@ namespace
 {
 
 constexpr std::size_t c_pageSize = 4096;
-constexpr std::size_t c_stackSize = 64 * 1024; // several times the largest frame that the system pushes
+// Room for a host's handler, which may write a crash report: it runs here, behind ours. What nobody uses costs
+// addresses only, since the system is asked to reserve nothing.
+constexpr std::size_t c_stackSize = 1024 * 1024;
 
 /// Owns the memory of one thread's stack: a page that faults, then the stack, which grows down towards it.
 class StackMemory

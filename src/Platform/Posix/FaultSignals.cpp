@@ -1,6 +1,8 @@
 #include <Platform/Posix/FaultSignals.h>
 
 #include <dlfcn.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 namespace Vek::Platform
 {
@@ -52,13 +54,16 @@ void CallPrevious(int signal, siginfo_t* info, void* context)
     pthread_sigmask(SIG_SETMASK, &before, nullptr);
 }
 
-// Raised again instead of left to the faulting instruction: a breakpoint does not fault a second time.
-void Die(int signal)
+// A real fault comes again as soon as the handler returns, and the core file then shows where it was. Breakpoints do
+// not fault a second time, nor does what was sent: those are sent again, as they came.
+void Die(int signal, siginfo_t* info)
 {
     struct sigaction action = {};
     action.sa_handler = SIG_DFL;
     sigaction(signal, &action, nullptr);
-    raise(signal);
+    bool const comesAgain = info->si_code > 0 && signal != SIGTRAP;
+    if (!comesAgain && syscall(SYS_rt_tgsigqueueinfo, getpid(), gettid(), signal, info) != 0)
+        raise(signal);
 }
 
 sigset_t FaultSignalSet()
@@ -81,7 +86,7 @@ void PassOnFaultSignal(int signal, siginfo_t* info, void* context)
 {
     bool const isSent = info->si_code <= 0; // by a program; the system lets nobody ignore a real fault
     if (s_previous[signal].sa_handler == SIG_DFL || (s_previous[signal].sa_handler == SIG_IGN && !isSent))
-        Die(signal);
+        Die(signal, info);
     else if (s_previous[signal].sa_handler != SIG_IGN)
         CallPrevious(signal, info, context);
 }

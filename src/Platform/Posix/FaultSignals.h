@@ -12,7 +12,8 @@ using FaultHandler = void (*)(int signal, siginfo_t* info, void* context);
 void InstallFaultHandler(FaultHandler handler);
 
 /// From within the handler: treats the signal as if the handler had never been installed. Returns when the previous
-/// handler returns or the signal was sent and is ignored; otherwise the process dies from the signal.
+/// handler returns or the signal was sent and is ignored; otherwise the process dies from the signal, at the latest
+/// when the handler has returned to the faulting instruction.
 void PassOnFaultSignal(int signal, siginfo_t* info, void* context);
 
 /// Lets the five signals reach this thread as long as the object lives. The system kills a process whose thread faults

@@ -4,7 +4,6 @@
 
 #include <cerrno>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace Vek::Platform
@@ -40,14 +39,6 @@ PathState QueryPath(std::wstring const& path)
 bool EnsureDirectory(std::wstring const& path)
 {
     return mkdir(GetNativePath(path).c_str(), c_everybody) == 0 || errno == EEXIST;
-}
-
-bool CopyWholeFile(std::wstring const& source, std::wstring const& target, bool overwrite)
-{
-    using Options = std::filesystem::copy_options;
-    std::error_code error;
-    return std::filesystem::copy_file(GetNativePath(source), GetNativePath(target),
-                                      overwrite ? Options::overwrite_existing : Options::none, error);
 }
 
 void RemoveFile(std::wstring const& path)
