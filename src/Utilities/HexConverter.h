@@ -2,10 +2,25 @@
 
 #include <VekApi.h>
 
+#include <array>
 #include <string>
 
 namespace Vek::Framework::Utilities
 {
+
+/// The values of the 8-bit characters as hexadecimal digits, 0x100 for what is none. A table, because which kind of
+/// digit comes next no processor can foretell, and compilers make branches of comparisons.
+inline constexpr std::array<unsigned short, 256> c_hexDigitValues = []
+{
+    std::array<unsigned short, 256> values{};
+    values.fill(0x100);
+    for (unsigned short value = 0; value < 16; ++value)
+    {
+        values[static_cast<unsigned char>("0123456789abcdef"[value])] = value;
+        values[static_cast<unsigned char>("0123456789ABCDEF"[value])] = value;
+    }
+    return values;
+}();
 
 /// Reads bytes that are written as two hexadecimal digits each; WStringHelper::GetHex writes them.
 class VEK_API HexConverter
@@ -23,27 +38,16 @@ public:
             Refuse(text, index);
         unsigned const high = static_cast<unsigned>(text[2 * index]);
         unsigned const low = static_cast<unsigned>(text[2 * index + 1]);
-        if ((IsDigit(high) & IsDigit(low)) == 0)
+        if ((high | low) > 0xFF)
             Refuse(text, index);
-        return static_cast<unsigned char>(GetValue(high) << 4U | GetValue(low));
+        unsigned const highValue = c_hexDigitValues[high];
+        unsigned const value = highValue << 4U | c_hexDigitValues[low];
+        if (value > 0xFF)
+            Refuse(text, index);
+        return static_cast<unsigned char>(value);
     }
 
 private:
-    /// 1 for a digit, else 0. By borrows, since a compiler makes branches of comparisons, and which digit comes next
-    /// no processor can foretell.
-    static unsigned IsDigit(unsigned unit) noexcept
-    {
-        return IsBelow(unit - U'0', 10) | IsBelow((unit | 0x20U) - U'a', 6);
-    }
-
-    static unsigned IsBelow(unsigned value, unsigned limit) noexcept
-    {
-        return static_cast<unsigned>((static_cast<unsigned long long>(value) - limit) >> 63U);
-    }
-
-    /// Of a digit: the bit 0x40 tells the letters, which begin at 0x41 and 0x61.
-    static unsigned GetValue(unsigned digit) noexcept { return (digit & 0x0FU) + 9 * (digit >> 6U); }
-
     [[noreturn]] static void Refuse(std::wstring const& text, unsigned long long index);
 };
 
