@@ -2,6 +2,8 @@
 // dates stands here. Closed forms only; no step goes year by year.
 #pragma once
 
+#include <cstdint>
+
 namespace Vek::Framework::Utilities::Internal
 {
 
@@ -43,30 +45,62 @@ constexpr int GetDaysInMonth(long long month, long long year)
     return 30 + static_cast<int>((month ^ (month >> 3)) & 1); // the odd months are long up to July, then the even ones
 }
 
+/// A date in 32 bits, in years from 0 to 2,900,000; month 1 to 12, day 1 to 31.
+struct ShortDate
+{
+    std::uint32_t year;
+    std::uint32_t month;
+    std::uint32_t day;
+};
+
+/// Days from 1 March of the year 0. Years begin in March, so that the leap day is a year's last; January and February
+/// are months 13 and 14 of the year before. Not before that day.
+constexpr std::uint32_t GetShortDay(std::uint32_t year, std::uint32_t month, std::uint32_t day)
+{
+    bool const isBeforeMarch = month <= 2;
+    std::uint32_t const marchYear = year - (isBeforeMarch ? 1 : 0);
+    std::uint32_t const marchMonth = month + (isBeforeMarch ? 12 : 0); // [3, 14]
+    std::uint32_t const century = marchYear / 100;
+    return marchYear * 1461 / 4 - century + century / 4 + (marchMonth * 979 - 2919) / 32 + day - 1;
+}
+
+/// The date of a day counted from 1 March of the year 0, up to 2^30 days. Multiplications and shifts in place of most
+/// divisions, after Neri and Schneider, "Euclidean affine functions and their application to calendar algorithms"
+/// (2022).
+constexpr ShortDate GetShortDate(std::uint32_t day)
+{
+    std::uint32_t const quarters = 4 * day + 3;
+    std::uint32_t const century = quarters / 146097;
+    std::uint32_t const quartersOfCentury = quarters % 146097 | 3;            // [3, 146099]
+    std::uint64_t const years = std::uint64_t{ 2939745 } * quartersOfCentury; // in units of 2^-32
+    auto const yearOfCentury = static_cast<std::uint32_t>(years >> 32U);      // [0, 99]
+    auto const dayOfYear = static_cast<std::uint32_t>(years) / 2939745 / 4;   // [0, 365]
+    std::uint32_t const months = dayOfYear * 2141 + 197913;                   // in units of 2^-16
+    std::uint32_t const marchMonth = months >> 16U;                           // [3, 14]
+    std::uint32_t const isNextYear = dayOfYear >= 306 ? 1 : 0;                // from 1 January on
+    return { century * 100 + yearOfCentury + isNextYear, marchMonth - 12 * isNextYear, (months & 0xFFFFU) / 2141 + 1 };
+}
+
+constexpr long long c_daysOfCycle = 146097;       // 400 years
+constexpr long long c_dayNumberOfMarch = -719468; // 1 March of the year 0
+
 /// Days from 1 January 1970; any year whose days fit. The day may lie outside its month and counts on from its first.
 constexpr long long GetDayNumber(long long year, int month, long long day)
 {
-    // Years begin in March, so that the leap day is a year's last.
-    long long const marchYear = year - (month <= 2 ? 1 : 0);
-    long long const marchMonth = month + (month <= 2 ? 9 : -3); // [0, 11]
-    long long const century = FloorDivide(marchYear, 100);
-    return marchYear * 365 + FloorDivide(marchYear, 4) - century + FloorDivide(century, 4) +
-           (marchMonth * 153 + 2) / 5 + day - 719469;
+    // The short day of the same year of the first cycle that has all of it.
+    long long const cycle = FloorDivide(year, 400);
+    auto const yearOfCycle = static_cast<std::uint32_t>(year - cycle * 400 + 400); // [400, 799]
+    std::uint32_t const first = GetShortDay(yearOfCycle, static_cast<std::uint32_t>(month), 1);
+    return (cycle - 1) * c_daysOfCycle + c_dayNumberOfMarch + first + (day - 1);
 }
 
 /// The date of a day counted from 1 January 1970.
 constexpr CivilDate GetCivilDate(long long dayNumber)
 {
-    long long const days = dayNumber + 719468; // from 1 March of the year 0
-    long long const cycle = FloorDivide(days, 146097);
-    long long const dayOfCycle = days - cycle * 146097; // [0, 146096]
-    long long const yearOfCycle =
-        (dayOfCycle - dayOfCycle / 1460 + dayOfCycle / 36524 - dayOfCycle / 146096) / 365;              // [0, 399]
-    long long const dayOfYear = dayOfCycle - (365 * yearOfCycle + yearOfCycle / 4 - yearOfCycle / 100); // [0, 365]
-    int const marchMonth = static_cast<int>((5 * dayOfYear + 2) / 153);                                 // [0, 11]
-    int const month = marchMonth + (marchMonth < 10 ? 3 : -9);
-    return { cycle * 400 + yearOfCycle + (month <= 2 ? 1 : 0), month,
-             static_cast<int>(dayOfYear - (153 * marchMonth + 2) / 5 + 1) };
+    long long const days = dayNumber - c_dayNumberOfMarch;
+    long long const cycle = FloorDivide(days, c_daysOfCycle);
+    ShortDate const date = GetShortDate(static_cast<std::uint32_t>(days - cycle * c_daysOfCycle));
+    return { cycle * 400 + date.year, static_cast<int>(date.month), static_cast<int>(date.day) };
 }
 
 /// 0 is Sunday, 6 Saturday.
