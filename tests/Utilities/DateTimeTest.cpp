@@ -1,0 +1,359 @@
+// Points in time over whole domains, against a calendar that is walked day by day.
+
+#include <Exceptions/EnumOutOfRangeException.h>
+#include <Exceptions/InvalidStateException.h>
+#include <Utilities/DateTime.h>
+#include <Utilities/DecimalLiterals.h>
+#include <Utilities/Duration.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <ctime>
+#include <vector>
+
+namespace Tests
+{
+
+namespace
+{
+
+using namespace Vek::Framework::Utilities;
+
+constexpr unsigned long long c_day = 864'000'000'000;
+constexpr unsigned long long c_second = 10'000'000;
+constexpr unsigned long long c_end = 1ULL << 63U;
+
+int GetLength(int month, int year)
+{
+    constexpr std::array<int, 12> lengths = { 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31 };
+    bool const isLeap = year % 400 == 0 || (year % 4 == 0 && year % 100 != 0);
+    return lengths[static_cast<std::size_t>(month - 1)] + (isLeap && month == 2 ? 1 : 0);
+}
+
+/// A calendar that knows nothing but how to turn its leaf.
+struct Leaf
+{
+    int year = 1601;
+    int month = 1;
+    int day = 1;
+    int dayOfWeek = 1;
+
+    void Turn()
+    {
+        dayOfWeek = (dayOfWeek + 1) % 7;
+        if (++day <= GetLength(month, year))
+            return;
+        day = 1;
+        if (++month <= 12)
+            return;
+        month = 1;
+        ++year;
+    }
+};
+
+DateTime At(int year, int month, int day, int hour = 0, int minute = 0, int second = 0)
+{
+    return DateTime::FromComponents(static_cast<short>(year), static_cast<unsigned char>(month),
+                                    static_cast<unsigned char>(day), static_cast<unsigned char>(hour),
+                                    static_cast<unsigned char>(minute), static_cast<unsigned char>(second));
+}
+
+Duration ToMonths(int months)
+{
+    return Duration::CreateRelative(months, Duration::Months);
+}
+
+Duration ToSeconds(Decimal const& seconds)
+{
+    return Duration::CreateRelative(seconds, Duration::Seconds);
+}
+
+TEST(DateTime, EveryDayFollowsTheOneBefore)
+{
+    unsigned long long ticks = 0;
+    unsigned second = 0;
+    for (Leaf leaf; leaf.year <= 9999; leaf.Turn(), ticks += c_day)
+    {
+        second = (second + 40'003) % 86'400;
+        int const hour = static_cast<int>(second / 3600);
+        int const minute = static_cast<int>(second / 60 % 60);
+        DateTime const point = At(leaf.year, leaf.month, leaf.day, hour, minute, static_cast<int>(second % 60));
+        ASSERT_EQ(point.GetTicks(), ticks + second * c_second) << leaf.year << ' ' << leaf.month << ' ' << leaf.day;
+        DateTimeComponentInfo const read = DateTime::FromTicks(point.GetTicks() + ticks % c_second).GetComponents();
+        bool const isSame = read.GetYear() == leaf.year && read.GetMonth() == leaf.month &&
+                            read.GetDayOfMonth() == leaf.day && read.GetHour() == hour && read.GetMinute() == minute &&
+                            read.GetSecond() == second % 60 && static_cast<int>(read.GetDayOfWeek()) == leaf.dayOfWeek;
+        ASSERT_TRUE(isSame) << leaf.year << ' ' << leaf.month << ' ' << leaf.day;
+    }
+    EXPECT_EQ(ticks / c_day, 3'067'671U);
+}
+
+/// The ticks of every month's first day and the lengths of the months, by counting.
+struct MonthTable
+{
+    static constexpr int c_first = 1880;
+    std::vector<unsigned long long> starts;
+    std::vector<int> lengths;
+
+    MonthTable()
+    {
+        unsigned long long ticks = At(c_first, 1, 1).GetTicks();
+        for (int year = c_first; year < c_first + 640; ++year)
+            for (int month = 1; month <= 12; ++month)
+            {
+                starts.push_back(ticks);
+                lengths.push_back(GetLength(month, year));
+                ticks += static_cast<unsigned>(lengths.back()) * c_day;
+            }
+    }
+};
+
+TEST(DateTime, MonthStepsFromEveryMonthsEnd)
+{
+    constexpr int reach = 1200;
+    unsigned long long const time = (14 * 3600 + 59) * c_second + 1'234'567;
+    unsigned long long const timeLeft = time - time % 10'000;
+    MonthTable const table;
+    std::vector<Duration> steps;
+    for (int months = -reach; months <= reach; ++months)
+        steps.push_back(ToMonths(months));
+    for (int from = (1990 - MonthTable::c_first) * 12; from < (2390 - MonthTable::c_first) * 12; ++from)
+    {
+        auto const index = static_cast<std::size_t>(from);
+        auto const last = static_cast<unsigned>(table.lengths[index]);
+        DateTime const start = DateTime::FromTicks(table.starts[index] + (last - 1) * c_day + time);
+        for (int months = -reach; months <= reach; ++months)
+        {
+            auto const to = static_cast<std::size_t>(from + months);
+            unsigned const day = std::min(last, static_cast<unsigned>(table.lengths[to]));
+            unsigned long long const expected = table.starts[to] + (day - 1) * c_day + (months == 0 ? time : timeLeft);
+            if ((start + steps[static_cast<std::size_t>(months + reach)]).GetTicks() != expected)
+                FAIL() << "month " << from << " and " << months;
+        }
+    }
+}
+
+TEST(DateTime, FieldsThatNameNoDateAreRefused)
+{
+    struct Row
+    {
+        int year, month, day, hour, minute, second;
+        bool isDate;
+    };
+    Row const rows[] = {
+        { 1600, 12, 31, 23, 59, 59, false }, { 1601, 1, 1, 0, 0, 0, true },   { 30827, 12, 31, 23, 59, 59, true },
+        { 30828, 1, 1, 0, 0, 0, false },     { 2023, 2, 29, 0, 0, 0, false }, { 1900, 2, 29, 0, 0, 0, false },
+        { 2000, 2, 29, 0, 0, 0, true },      { 2024, 4, 31, 0, 0, 0, false }, { 2024, 13, 1, 0, 0, 0, false },
+        { 2024, 0, 1, 0, 0, 0, false },      { 2024, 1, 0, 0, 0, 0, false },  { 2024, 1, 1, 24, 0, 0, false },
+        { 2024, 1, 1, 0, 60, 0, false },     { 2024, 1, 1, 0, 0, 60, false }, { -1, 1, 1, 0, 0, 0, false },
+    };
+    for (Row const& row : rows)
+    {
+        auto const make = [&] { return At(row.year, row.month, row.day, row.hour, row.minute, row.second); };
+        if (row.isDate)
+            EXPECT_EQ(make().GetComponents().GetYear(), row.year);
+        else
+            EXPECT_THROW(make(), Vek::ArgumentException) << row.year << ' ' << row.month << ' ' << row.day;
+    }
+    EXPECT_THROW(DateTime::GetDaysOfMonth(0, 2024), Vek::ArgumentException);
+    EXPECT_THROW(DateTime::GetDaysOfMonth(13, 2024), Vek::ArgumentException);
+    for (int year : { -400, -100, -4, 1900, 2000, 2023, 2024 })
+        for (int month = 1; month <= 12; ++month)
+            EXPECT_EQ(DateTime::GetDaysOfMonth(month, year), GetLength(month, year));
+    EXPECT_THROW(DateTimeComponentInfo(2024, 1, 1, 0, 0, 0).GetDayOfWeek(), Vek::InvalidStateException);
+}
+
+TEST(DateTime, TicksEndBelowTwoToThe63)
+{
+    DateTimeComponentInfo const last = DateTime::FromTicks(c_end - 1).GetComponents();
+    EXPECT_EQ(last.GetYear(), 30828);
+    EXPECT_EQ(last.GetMonth() * 100 + last.GetDayOfMonth(), 914);
+    EXPECT_EQ(last.GetHour() * 10'000 + last.GetMinute() * 100 + last.GetSecond(), 24'805);
+    EXPECT_THROW(DateTime::FromTicks(c_end), Vek::ArgumentException);
+
+    DateTime const before = DateTime() - ToSeconds(1); // wraps around
+    EXPECT_EQ(before.GetTicks(), 0 - c_second);
+    EXPECT_EQ((before + ToSeconds(1)).GetTicks(), 0U);
+    EXPECT_GT(before, DateTime());
+    EXPECT_THROW(before.GetComponents(), Vek::ArgumentException);
+    EXPECT_THROW(before.CompareTo(DateTime(), DateTime::IgnoreYear), Vek::ArgumentException);
+    EXPECT_THROW(before.GetMonthsForNextSeconds(1), Vek::ArgumentException);
+    EXPECT_THROW(DateTime().GetMonthsForNextSeconds(-1), Vek::ArgumentException);
+    EXPECT_THROW(before + ToMonths(1), Vek::ArgumentException);
+}
+
+TEST(DateTime, TimeTIsTakenAsItIs)
+{
+    EXPECT_EQ(DateTime::FromTimeT(0).GetTicks(), 116'444'736'000'000'000U);
+    EXPECT_EQ(DateTime::FromTimeT(0).GetComponents().GetDayOfWeek(), DayOfWeek::Thursday);
+    EXPECT_EQ(DateTime::FromTimeT(1'709'649'005), At(2024, 3, 5, 14, 30, 5));
+    EXPECT_EQ(DateTime::FromTimeT(-11'644'473'600), DateTime());
+}
+
+TEST(DateTime, SumsTakeTheExactPartFirst)
+{
+    struct Row
+    {
+        DateTime from;
+        int months;
+        Decimal seconds;
+        DateTime to;
+        char const* why;
+    };
+    Row const rows[] = {
+        { At(2024, 1, 31), 1, 0, At(2024, 2, 29), "the leap year's last of February" },
+        { At(2023, 1, 31), 1, 0, At(2023, 2, 28), "a plain year's" },
+        { At(2024, 3, 31), -1, 0, At(2024, 2, 29), "backwards as well" },
+        { At(2024, 1, 15), -1, 0, At(2023, 12, 15), "into the year before" },
+        { At(2024, 1, 31), 1, 86'400, At(2024, 3, 1), "1 February and one month" },
+        { At(2024, 1, 1), 0, 0.00000005_dec, DateTime::FromTicks(At(2024, 1, 1).GetTicks() + 1), "half a tick up" },
+        { At(2024, 1, 1), 0, -0.00000005_dec, DateTime::FromTicks(At(2024, 1, 1).GetTicks() - 1), "half a tick down" },
+        { At(2024, 1, 1), 0, 0.000000049_dec, At(2024, 1, 1), "less than half" },
+        { At(2024, 1, 1), 1, 0.0009999_dec, At(2024, 2, 1), "months drop what is below a millisecond" },
+        { At(2024, 1, 1), 0, Decimal(1) / 0, At(2024, 1, 1), "an Infinity moves nothing" },
+        { At(2024, 1, 1), 1, Decimal(0) / 0, At(2024, 2, 1), "a NaN moves nothing" },
+        { At(2024, 1, 1), 0, 1e40_dec, At(2024, 1, 1), "nor what is no integer" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        Duration const duration({}, row.seconds, row.months);
+        EXPECT_EQ(row.from + duration, row.to);
+        EXPECT_EQ(row.from - Duration({}, -row.seconds, -row.months), row.to);
+    }
+}
+
+TEST(DateTime, MonthsNeverWrapIntoAValidYear)
+{
+    DateTime const start = At(2024, 1, 31);
+    int const toFirst = -(2024 - 1601) * 12;
+    int const toLast = (30827 - 2024) * 12 + 11;
+    EXPECT_EQ((start + ToMonths(toFirst)).GetComponents().GetYear(), 1601);
+    EXPECT_EQ((start + ToMonths(toLast)).GetComponents().GetYear(), 30827);
+    for (int months : { toFirst - 1, toLast + 1, 786'432, -786'432, INT_MAX, INT_MIN })
+    {
+        EXPECT_THROW(start + ToMonths(months), Vek::ArgumentException) << months;
+        DateTime sum = start;
+        EXPECT_FALSE(start.TryAdd(ToMonths(months), sum)) << months;
+        EXPECT_EQ(sum, start);
+    }
+    EXPECT_THROW(start - ToMonths(INT_MIN), Vek::ArgumentException);
+    EXPECT_EQ(start.GetDurationInSecondsForNextMonths(1, 0.00125_dec), 29 * 86'400 - 0.00025_dec);
+}
+
+TEST(DateTime, TryAddRefusesWhatTheSumWouldHide)
+{
+    DateTime const first;
+    DateTime const last = DateTime::FromTicks(c_end - 1);
+    DateTime const wrapped = first - ToSeconds(1);
+    Decimal const all(static_cast<long long>(c_end - 1), -7);
+    struct Row
+    {
+        DateTime from;
+        Decimal seconds;
+        int months;
+        bool isAdded;
+        char const* why;
+    };
+    Row const rows[] = {
+        { first, all, 0, true, "from the first tick to the last" },
+        { last, -all, 0, true, "and back" },
+        { first, all + 0.0000001_dec, 0, false, "one tick too far" },
+        { last, -all - 0.0000001_dec, 0, false, "one tick too far back" },
+        { last, 0.00000004_dec, 0, true, "rounded to nothing" },
+        { first, -2 * all - 1, 0, false, "round once and back into the range" },
+        { first, 2 * all + 1, 0, false, "the same upwards" },
+        { first, 1e33_dec, 0, false, "modulo 2^64 anything" },
+        { first, 1e40_dec, 0, false, "an integer that is 0" },
+        { first, Decimal(1) / 0, 0, false, "Infinity" },
+        { first, Decimal(-1) / 0, 1, false, "-Infinity" },
+        { first, Decimal(0) / 0, 0, false, "NaN" },
+        { wrapped, 1, 0, false, "from no point in time" },
+        { last, -86'400 * 300, 1, true, "back into the last whole year" },
+        { last, 0, 1, false, "a month within the year that is cut" },
+    };
+    for (Row const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        Duration const duration({}, row.seconds, row.months);
+        DateTime sum = At(2024, 1, 1);
+        EXPECT_EQ(row.from.TryAdd(duration, sum), row.isAdded);
+        EXPECT_EQ(sum, row.isAdded ? row.from + duration : At(2024, 1, 1));
+    }
+}
+
+TEST(DateTime, ComparesWithAndWithoutTheYear)
+{
+    struct Row
+    {
+        DateTime a;
+        DateTime b;
+        int exact;
+        int ignoringYear;
+    };
+    DateTime const leapDay = At(2024, 2, 29, 10);
+    Row const rows[] = {
+        { At(2023, 3, 1), At(2024, 2, 28), -1, 1 },
+        { leapDay, At(1999, 2, 28, 23, 59, 59), 1, 1 },
+        { leapDay, At(2031, 3, 1), -1, -1 },
+        { leapDay, At(1996, 2, 29, 10), 1, 0 },
+        { leapDay, leapDay + ToSeconds(0.0009999_dec), -1, 0 },
+        { leapDay, leapDay + ToSeconds(0.001_dec), -1, -1 },
+        { DateTime::FromTicks(c_end - 1), At(2024, 9, 14), 1, 1 },
+    };
+    for (Row const& row : rows)
+    {
+        EXPECT_EQ(row.a.CompareTo(row.b, DateTime::Exact), row.exact);
+        EXPECT_EQ(row.b.CompareTo(row.a, DateTime::Exact), -row.exact);
+        EXPECT_EQ(row.a.CompareTo(row.b, DateTime::IgnoreYear), row.ignoringYear);
+        EXPECT_EQ(row.b.CompareTo(row.a, DateTime::IgnoreYear), -row.ignoringYear);
+        EXPECT_EQ(row.a < row.b, row.exact < 0);
+    }
+    EXPECT_THROW(leapDay.CompareTo(leapDay, static_cast<DateTime::ComparisonOptions>(2)), Vek::EnumOutOfRangeException);
+}
+
+TEST(DateTime, WholeMonthsOfSecondsCompareDaysOnly)
+{
+    struct Row
+    {
+        DateTime from;
+        DateTime to;
+        int months;
+    };
+    Row const rows[] = {
+        { At(2024, 1, 31), At(2024, 2, 29), 0 },        { At(2024, 1, 31), At(2024, 3, 31), 2 },
+        { At(2024, 1, 15, 10), At(2024, 2, 15, 9), 1 }, { At(2024, 1, 15), At(2024, 1, 14), 0 },
+        { At(2024, 3, 31), At(2024, 2, 29), -1 },       { At(2024, 3, 15), At(2024, 2, 16), 0 },
+        { At(2024, 3, 15), At(2023, 3, 15), -12 },      { At(1601, 1, 1), At(30827, 12, 31), 350'723 },
+    };
+    for (Row const& row : rows)
+    {
+        Duration const between = row.to - row.from;
+        EXPECT_EQ(row.from.GetMonthsForNextSeconds(between.GetExactComponent(Duration::Seconds)), row.months);
+        EXPECT_EQ(between.GetReasonableMonths(), row.months);
+        EXPECT_EQ(row.from + between, row.to);
+        EXPECT_EQ(*between.GetStart(), row.from);
+    }
+    Decimal const tick =
+        (At(2024, 1, 1) - DateTime::FromTicks(At(2024, 1, 1).GetTicks() + 1)).GetExact(Duration::Seconds);
+    EXPECT_EQ(tick.ToString(L'.', {}), L"-0.0000001");
+}
+
+TEST(DateTime, NowIsOnTheSystemsLocalClock)
+{
+    std::time_t const before = std::time(nullptr);
+    DateTime const now = DateTime::Now();
+    std::tm const local = *std::localtime(&before);
+    DateTime const clock = At(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min,
+                              std::min(local.tm_sec, 59));
+    Decimal const seconds = (now - clock).GetExact(Duration::Seconds);
+    EXPECT_TRUE(seconds >= 0 && seconds < 60) << seconds.ToDouble();
+    EXPECT_EQ(now.GetTicks() % 10'000, 0U);
+}
+
+} // namespace
+
+} // namespace Tests
