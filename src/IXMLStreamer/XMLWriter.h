@@ -85,6 +85,21 @@ public:
     /// <name attributes/>. Refused outside a structure element.
     bool WriteContent(std::string const& name, AttributeWriter const& attributes);
 
+    /// The same without attributes.
+    bool WriteBeginStructure(std::string const& name) { return WriteBeginStructure(name, WriteNoAttributes); }
+    bool WriteContent(std::string const& name) { return WriteContent(name, WriteNoAttributes); }
+    template <class V>
+    requires(!NoContentValue<std::decay_t<V>>) bool WriteContentValue(std::string const& name, V const& value)
+    {
+        return WriteContentValue(name, value, WriteNoAttributes);
+    }
+
+    /// A null AttributeWriter, which is an empty one, does not compile.
+    bool WriteBeginStructure(std::string const& name, std::nullptr_t) = delete;
+    bool WriteContent(std::string const& name, std::nullptr_t) = delete;
+    template <class V>
+    bool WriteContentValue(std::string const& name, V const& value, std::nullptr_t) = delete;
+
     /// <!--text-->; nothing for an empty text. Allowed anywhere from the first StartWriting on, also before and behind
     /// the root and behind FinishWriting. Hyphens go out as they are; XMLStreamer reads "--" in a comment, which other
     /// readers may refuse.
@@ -118,6 +133,8 @@ private:
         Running,
         Attributes // the attribute writer is being called
     };
+
+    static void WriteNoAttributes(AttributeEmitter const&) noexcept {}
 
     /// The text of the operation that runs; it belongs to one writer, so that a copy starts without.
     struct Draft

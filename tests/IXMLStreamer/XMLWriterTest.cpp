@@ -163,7 +163,7 @@ TEST(XMLWriter, ExceptionOfAnAttributeWriterLeavesTheWriterAsItWas)
     EXPECT_THROW(writer.WriteBeginStructure("a", fail), std::runtime_error);
     EXPECT_TRUE(Begin(writer));
     EXPECT_THROW(writer.WriteContentValue("b", "x", fail), std::runtime_error);
-    EXPECT_THROW(writer.WriteContent("b", nullptr), std::bad_function_call);
+    EXPECT_THROW(writer.WriteContent("b", XMLWriter::AttributeWriter()), std::bad_function_call);
     EXPECT_TRUE(Content(writer) && End(writer) && Finish(writer));
     EXPECT_EQ("<a>\n\t<b>1</b>\n\t<b/>\n</a>\n", stream.str());
 }

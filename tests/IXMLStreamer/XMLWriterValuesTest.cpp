@@ -39,6 +39,30 @@ static_assert(!IsContent<void (*)()> && !IsContent<void(XMLWriter&)>);
 static_assert(!IsContent<char> && !IsContent<wchar_t> && !IsContent<unsigned char>);
 static_assert(!IsContent<long> && !IsContent<unsigned long> && !IsContent<long long> && !IsContent<long double>);
 
+// Where the attributes are left out, and where a null pointer stands for them.
+template <class V>
+concept IsContentAlone = requires(XMLWriter& writer, V value)
+{
+    writer.WriteContentValue("name", value);
+};
+template <class... Value>
+concept TakesNull = requires(XMLWriter& writer, Value... value)
+{
+    writer.WriteContentValue("name", value..., nullptr);
+}
+|| requires(XMLWriter& writer)
+{
+    writer.WriteContent("name", nullptr);
+}
+|| requires(XMLWriter& writer)
+{
+    writer.WriteBeginStructure("name", nullptr);
+};
+
+static_assert(IsContentAlone<std::string> && IsContentAlone<char const (&)[3]> && IsContentAlone<bool>);
+static_assert(!IsContentAlone<long> && !IsContentAlone<std::nullptr_t> && !IsContentAlone<wchar_t const*>);
+static_assert(!TakesNull<> && !TakesNull<char const*> && !TakesNull<std::string> && !TakesNull<int>);
+
 class GermanDigits : public std::numpunct<char>
 {
 protected:
@@ -85,6 +109,16 @@ std::string MakeText(std::mt19937& random)
 }
 
 } // namespace
+
+TEST(XMLWriterValues, AttributesMayBeLeftOut)
+{
+    std::ostringstream stream;
+    XMLWriter writer;
+    EXPECT_TRUE(writer.StartWriting(stream, false) && writer.WriteBeginStructure("a"));
+    EXPECT_TRUE(writer.WriteContentValue("b", "<") && writer.WriteContentValue("c", 1) && writer.WriteContent("d"));
+    EXPECT_TRUE(writer.WriteEndStructure() && writer.FinishWriting());
+    EXPECT_EQ("<a>\n\t<b>&lt;</b>\n\t<c>1</c>\n\t<d/>\n</a>\n", stream.str());
+}
 
 TEST(XMLWriterValues, NumbersLookAsTheStreamFormatsThem)
 {
