@@ -1,5 +1,6 @@
 #include <SysBase/CalendarNames.h>
 #include <SysBase/Feiertage.h>
+#include <SysBase/Heute.h>
 #include <SysBase/Kalenderwoche.h>
 #include <SysBase/Zinstage.h>
 
@@ -7,6 +8,7 @@
 #include "PrintDate.h"
 
 #include <Exceptions/EnumOutOfRangeException.h>
+#include <Utilities/DateTime.h>
 
 #include <gtest/gtest.h>
 
@@ -127,6 +129,20 @@ TEST(Kalenderwoche, WhatIsNotThere)
         EXPECT_EQ(GetDateInKalenderwoche(week, date.GetDayOfWeek()), date) << week.year;
     }
     EXPECT_EQ(GetKalenderwoche({ 31, 2, 2024 }), Kalenderwoche());
+}
+
+TEST(Heute, IsTheDayOfNow)
+{
+    using Vek::Framework::Utilities::DateTime;
+    auto const toDate = [](DateTime const& now)
+    {
+        auto const fields = now.GetComponents();
+        return VekDateEx(fields.GetDayOfMonth(), fields.GetMonth(), fields.GetYear());
+    };
+    VekDateEx const before = toDate(DateTime::Now()); // midnight may pass
+    VekDateEx const today = Heute();
+    EXPECT_LE(before, today);
+    EXPECT_LE(today, toDate(DateTime::Now()));
 }
 
 TEST(Zinstage, ByEveryMethod)
