@@ -13,6 +13,7 @@ namespace Vek::Framework::IParser::Native
 
 namespace Internal
 {
+class StateTable;
 struct StateToken;
 class TokenTree;
 template <class T>
@@ -108,7 +109,7 @@ public:
     Internal::StateToken* FindToken(std::string const& text) const;
 
 private:
-    friend class StateParser;
+    friend class Internal::StateTable;
     friend class StateProcessor;
 
     State(unsigned int id, unsigned int const& activeRuns);
@@ -119,7 +120,7 @@ private:
     VEK_LOCAL void Replace(std::shared_ptr<Consumer const>& slot, Consumer consumer);
 
     unsigned int m_id;
-    unsigned int const& m_activeRuns; // of the parser that owns this state
+    unsigned int const& m_activeRuns; // of the table that owns this state
     std::shared_ptr<TextConsumer const> m_textConsumer;
     std::shared_ptr<TextViewConsumer const> m_textViewConsumer;
     std::shared_ptr<NumberConsumer const> m_numberConsumer;

@@ -1,21 +1,13 @@
 #include <IParser/StateParser.h>
 
-#include <Exceptions/ArgumentException.h>
 #include <Exceptions/NullPointerException.h>
+#include <IParser/Internal/StateProcessor.h>
 #include <IParser/Internal/StateTable.h>
-#include <IParser/StateProcessor.h>
 
 #include <utility>
 
 namespace Vek::Framework::IParser::Native
 {
-
-struct StateParser::Registry
-{
-    Internal::StateTable states;
-    State* initialState = nullptr;
-    unsigned int activeRuns = 0;
-};
 
 namespace
 {
@@ -34,7 +26,7 @@ private:
 
 } // namespace
 
-StateParser::StateParser() : m_registry(std::make_unique<Registry>())
+StateParser::StateParser() : m_states(std::make_unique<Internal::StateTable>())
 {
 }
 
@@ -42,28 +34,17 @@ StateParser::~StateParser() = default;
 
 State* StateParser::RegisterState(unsigned int id, WhiteSpaceHandling whiteSpaceHandling)
 {
-    if (m_registry->states.Find(id) != nullptr)
-        throw ArgumentException();
-
-    std::unique_ptr<State> state(new State(id, m_registry->activeRuns));
-    if (whiteSpaceHandling == SkipWhiteSpace)
-        for (char const* const blank : { " ", "\t", "\r", "\n" })
-            state->RegisterSkipToken(blank, State::CaseSensitive);
-
-    State& added = m_registry->states.Add(std::move(state));
-    if (m_registry->initialState == nullptr)
-        m_registry->initialState = &added;
-    return &added;
+    return &m_states->Register(id, whiteSpaceHandling);
 }
 
 template <class... Source>
 bool StateParser::Run(Source&&... source)
 {
-    if (m_registry->initialState == nullptr)
+    if (m_states->GetInitialState() == nullptr)
         throw NullPointerException();
 
-    CountWhileAlive const running(m_registry->activeRuns);
-    StateProcessor processor(m_registry->states, *m_registry->initialState, std::forward<Source>(source)...);
+    CountWhileAlive const running(m_states->GetActiveRuns());
+    StateProcessor processor(*m_states, nullptr, std::forward<Source>(source)...);
     m_result = processor.Process();
     return m_result.IsSuccess();
 }

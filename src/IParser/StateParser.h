@@ -11,6 +11,11 @@
 namespace Vek::Framework::IParser::Native
 {
 
+namespace Internal
+{
+class StateTable;
+}
+
 /// An event-driven parser of 8-bit text: registered states recognise their tokens by longest match and hand tokens,
 /// and the text between them, to their consumers.
 ///
@@ -55,12 +60,10 @@ public:
     ParserResult const& GetParserResult() const noexcept;
 
 private:
-    struct VEK_LOCAL Registry;
-
     template <class... Source>
     VEK_LOCAL bool Run(Source&&... source);
 
-    std::unique_ptr<Registry> m_registry;
+    std::unique_ptr<Internal::StateTable> m_states;
     ParserResult m_result;
 };
 

@@ -23,6 +23,7 @@ constexpr char const* c_descriptions[] = {
     "Fehlender XML-Knoten-Bezeichner!",
     "Fehlender XML-Attribute-Name!",
     "Ung\374ltiger XML-Code!",
+    "Nicht unterst\374tzte XML-Syntax!",
 };
 
 } // namespace

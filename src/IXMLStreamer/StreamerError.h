@@ -25,7 +25,8 @@ public:
         HexadecimalCodeNotSupported = 8,
         MissingElementName = 9,
         MissingAttributeName = 10,
-        InvalidCode = 11
+        InvalidCode = 11,
+        UnsupportedSyntax = 12 ///< in the strict syntax only
     };
 
     /// Ok, line and column -1, no expected symbol.
@@ -37,7 +38,8 @@ public:
     ~StreamerError();
 
     ResultCode GetErrorCode() const noexcept;
-    /// From 1; -1 for errors that a handler or a registration raised.
+    /// From 1 for an unexpected end and for UnsupportedSyntax, otherwise -1; XMLStreamer::GetParserResult has the
+    /// place.
     int GetLine() const noexcept;
     int GetColumn() const noexcept;
     /// What the reader expected where it failed, in Windows-1252; empty when there is nothing to name.

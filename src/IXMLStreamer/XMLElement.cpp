@@ -9,7 +9,13 @@ XMLElement::XMLElement(std::string const& name) : m_name(name)
 {
 }
 
-XMLElement::XMLElement(XMLElement const& other) = default;
+XMLElement::XMLElement(XMLElement const& other)
+    : m_name(other.m_name),
+      m_attributes(other.m_attributes),
+      m_unspecifiedAttributes(other.m_unspecifiedAttributes)
+{
+}
+
 XMLElement::~XMLElement() = default;
 
 XMLElement& XMLElement::operator=(XMLElement const& other)

@@ -4,8 +4,10 @@
 #include <IXMLStreamer/VersionedFunctionCollection.h>
 #include <VekApi.h>
 
+#include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Vek::Framework::IXMLStreamer::Native
 {
@@ -24,6 +26,7 @@ public:
         Content = 1    ///< holds text
     };
 
+    /// A copy that belongs to no reader.
     XMLElement(XMLElement const& other);
     /// Takes over copies of the handlers; the name stays, since it is what the parent finds this element by.
     XMLElement& operator=(XMLElement const& other);
@@ -45,14 +48,17 @@ protected:
 
 private:
     friend class XMLStreamer;
+    friend class XMLStructureElement;
 
     using AttributeHandlers = VersionedFunctionCollection<AttributeHandler>;
+    using Elements = std::vector<std::unique_ptr<XMLElement>>;
 
     AttributeHandlers const& FindAttribute(std::string_view name) const;
 
     std::string m_name;
     Internal::NameTable<AttributeHandlers> m_attributes;
     AttributeHandlers m_unspecifiedAttributes;
+    Elements* m_home = nullptr; // the root's list of all elements, so that the end of a deep description takes no stack
 };
 
 } // namespace Vek::Framework::IXMLStreamer::Native

@@ -28,6 +28,16 @@ unsigned int XMLStreamer::GetVersion() const noexcept
     return m_reader->GetVersion();
 }
 
+void XMLStreamer::SetSyntax(Syntax syntax)
+{
+    m_reader->SetSyntax(syntax);
+}
+
+XMLStreamer::Syntax XMLStreamer::GetSyntax() const noexcept
+{
+    return m_reader->GetSyntax();
+}
+
 void XMLStreamer::SetOnUnknownElement(unsigned int version, UnknownElementHandler handler)
 {
     m_reader->SetOnUnknownElement(version, std::move(handler));
@@ -40,7 +50,12 @@ void XMLStreamer::SetOnUnknownAttribute(unsigned int version, AttributeHandler h
 
 bool XMLStreamer::ProcessSource(std::istream& stream)
 {
-    return m_reader->Process(stream);
+    return m_reader->ProcessStream(stream);
+}
+
+bool XMLStreamer::ProcessSource(std::string_view text)
+{
+    return m_reader->ProcessText(text);
 }
 
 StreamerError& XMLStreamer::GetError() noexcept
@@ -56,6 +71,11 @@ StreamerError const& XMLStreamer::GetError() const noexcept
 IParser::Native::ParserResult const& XMLStreamer::GetParserResult() const noexcept
 {
     return m_reader->GetParserResult();
+}
+
+std::string const& XMLStreamer::GetDeclaredEncoding() const noexcept
+{
+    return m_reader->GetDeclaredEncoding();
 }
 
 std::string XMLStreamer::GetOpenElementPath() const

@@ -1,5 +1,6 @@
 #include <IXMLStreamer/XMLStructureElement.h>
 
+#include <Exceptions/ArgumentException.h>
 #include <IXMLStreamer/StreamerError.h>
 
 #include <utility>
@@ -11,6 +12,7 @@ XMLStructureElement::XMLStructureElement(StreamerError& error, std::string const
     : XMLElement(name),
       m_error(error)
 {
+    m_home = &m_elements;
 }
 
 XMLStructureElement::~XMLStructureElement() = default;
@@ -32,16 +34,28 @@ XMLStructureElement& XMLStructureElement::CreateStructureElement(std::string con
 {
     std::unique_ptr<XMLStructureElement> element(new XMLStructureElement(m_error, name));
     XMLStructureElement& created = *element;
-    created.m_home = m_home;
     InsertElement(std::move(element));
     return created;
+}
+
+void XMLStructureElement::UseElement(XMLElement& element)
+{
+    if (element.m_home != m_home)
+        throw ArgumentException();
+    AddChild(element);
 }
 
 void XMLStructureElement::InsertElement(std::unique_ptr<XMLElement> element)
 {
     XMLElement& inserted = *m_home->emplace_back(std::move(element));
-    if (m_children.Find(inserted.GetElementName()) == nullptr)
-        m_children.Add(inserted.GetElementName()) = &inserted;
+    inserted.m_home = m_home;
+    AddChild(inserted);
+}
+
+void XMLStructureElement::AddChild(XMLElement& element)
+{
+    if (m_children.Find(element.GetElementName()) == nullptr)
+        m_children.Add(element.GetElementName()) = &element;
     else
         m_error.RaiseError(StreamerError::DuplicateName, -1, -1, "");
 }

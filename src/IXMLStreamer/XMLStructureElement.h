@@ -27,6 +27,12 @@ public:
     XMLContentElement& CreateContentElement(std::string const& name);
     XMLStructureElement& CreateStructureElement(std::string const& name);
 
+    /// Takes an element that is described already as a child, this one or one further out included: menus in menus are
+    /// one description that uses itself, and are read as fast as a flat document. It stays what it is where it was
+    /// made, under its name, with its handlers. A name that a child has already is refused as above.
+    /// Throws ArgumentException for an element of another root or reader, and for a copy.
+    void UseElement(XMLElement& element);
+
     /// The handler that runs when the start tag with all its attributes has been read, from `version` on.
     void SetOnBegin(unsigned int version, StructureHandler handler);
     /// The handler that runs when the end tag has been read, from `version` on.
@@ -39,15 +45,13 @@ protected:
 private:
     friend class XMLStreamer;
 
-    using Elements = std::vector<std::unique_ptr<XMLElement>>;
-
     void InsertElement(std::unique_ptr<XMLElement> element);
+    void AddChild(XMLElement& element);
     XMLElement const* FindChildElement(std::string_view name) const;
 
     StreamerError& m_error;
     Internal::NameTable<XMLElement*> m_children;
-    Elements m_elements;            // of a root: all descriptions below it, refused ones included
-    Elements* m_home = &m_elements; // the root's, so that the end of a deep description takes no stack
+    Elements m_elements; // of a root: all descriptions below it, refused ones included
     VersionedFunctionCollection<StructureHandler> m_onBegin;
     VersionedFunctionCollection<StructureHandler> m_onEnd;
 };

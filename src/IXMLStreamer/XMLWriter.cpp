@@ -1,6 +1,7 @@
 #include <IXMLStreamer/XMLWriter.h>
 
 #include <IXMLStreamer/Internal/Escaping.h>
+#include <IXMLStreamer/Internal/KeptCapacity.h>
 #include <IXMLStreamer/Internal/NumberText.h>
 
 namespace Vek::Framework::IXMLStreamer::Native
@@ -36,9 +37,7 @@ public:
     RunningOperation& operator=(RunningOperation const&) = delete;
     ~RunningOperation()
     {
-        constexpr std::size_t c_keptCapacity = 65536; // one long value must not cost memory for ever
-        if (m_draft.text.capacity() > c_keptCapacity)
-            std::string().swap(m_draft.text);
+        Internal::ReleaseIfLarge(m_draft.text);
         m_draft.lostAttribute = nullptr;
         m_draft.phase = Phase::Idle;
     }

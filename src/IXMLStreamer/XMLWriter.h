@@ -70,6 +70,7 @@ public:
     /// <name attributes>value</name>, or <name attributes/> for an empty text; a null pointer is an empty text.
     /// Refused outside a structure element. If an attribute is refused, writing stops behind the attributes.
     /// Numbers are formatted as `stream << value` would: base, precision, width, fill and locale of the stream count.
+    /// Imbue the classic locale if the document must not depend on the user's.
     /// A bool is "1" or "0".
     bool WriteContentValue(std::string const& name, std::string const& value, AttributeWriter const& attributes);
     bool WriteContentValue(std::string const& name, char const* value, AttributeWriter const& attributes);

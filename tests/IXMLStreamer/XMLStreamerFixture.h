@@ -12,13 +12,26 @@ namespace XMLStreamerTests
 
 using namespace Vek::Framework::IXMLStreamer::Native;
 
+/// A document: a '~' at the front stands for the declaration and a line feed, a '^' for the root's start tag behind
+/// them, a '$' at the end for the root's end tag.
+inline std::string Expand(std::string document)
+{
+    bool const isRootOpen = document.starts_with('^');
+    if (isRootOpen || document.starts_with('~'))
+        document.replace(0, 1, std::string("<?xml version=\"1.0\"?>\n") + (isRootOpen ? "<settings>" : ""));
+    if (document.ends_with('$'))
+        document.replace(document.size() - 1, 1, "</settings>");
+    return document;
+}
+
 /// A reader of documents <settings><title/><printer name=""><port/></printer></settings> that writes down what its
 /// handlers are told. A handler whose value or name holds "refuse" answers false.
 class TracingReader
 {
 public:
-    TracingReader()
+    explicit TracingReader(XMLStreamer::Syntax syntax = XMLStreamer::Lenient)
     {
+        streamer.SetSyntax(syntax);
         XMLStructureElement& root = streamer.CreateRootStructureElement("settings");
         Describe(root);
         DescribeContent(root.CreateContentElement("title"));

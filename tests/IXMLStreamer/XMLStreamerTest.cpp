@@ -1,5 +1,6 @@
 #include "XMLStreamerFixture.h"
 
+#include <Exceptions/ArgumentException.h>
 #include <Exceptions/InvalidStateException.h>
 
 #include <gtest/gtest.h>
@@ -99,6 +100,33 @@ TEST(XMLStreamer, RefusedDuplicateIsAnErrorUntilTheNextRun)
     reader.streamer.SetOnUnknownElement(1, [&](auto&) { return root.CreateContentElement("title"), true; });
     EXPECT_FALSE(reader.Read(std::string(c_declaration) + "<settings><other/><title>&x;</title></settings>"));
     EXPECT_EQ(StreamerError::InvalidCode, reader.streamer.GetError().GetErrorCode()) << "what ends the run counts";
+}
+
+TEST(XMLStreamer, AnElementMayContainItself)
+{
+    XMLStreamer streamer;
+    XMLStreamer other;
+    std::string trace;
+    XMLStructureElement& root = streamer.CreateRootStructureElement("menus");
+    XMLStructureElement& menu = root.CreateStructureElement("menu");
+    XMLContentElement& text = root.CreateContentElement("text");
+    menu.UseElement(menu);
+    menu.UseElement(text);
+    menu.UseElement(root);
+    menu.RegisterAttribute(0, "id", [&](auto&, auto& value) { return trace += value + "(", true; });
+    menu.SetOnEnd(0, [&](auto&) { return trace += ")", true; });
+    text.SetOnDo(0, [&](auto&, auto& content) { return trace += content, true; });
+    EXPECT_TRUE(
+        streamer.ProcessSource("<?xml version='1.0'?><menus><text>a</text><menu id='1'><menu id='2'><text>b</text>"
+                               "</menu><menu id='3'/><text>c</text><menus><menu id='4'/></menus></menu></menus>"));
+    EXPECT_EQ("a1(2(b)3()c4())", trace);
+
+    menu.UseElement(text);
+    EXPECT_EQ(StreamerError::DuplicateName, streamer.GetError().GetErrorCode());
+    XMLContentElement copy(text);
+    for (XMLElement* const foreign :
+         { static_cast<XMLElement*>(&other.CreateRootStructureElement("a")), static_cast<XMLElement*>(&copy) })
+        EXPECT_THROW(root.UseElement(*foreign), Vek::ArgumentException);
 }
 
 TEST(XMLStreamer, DeepDescriptionsEndOnASmallStack)

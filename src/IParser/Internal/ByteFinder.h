@@ -27,6 +27,8 @@ public:
 
     void Remove(unsigned char byte)
     {
+        if (!m_contains[byte])
+            return;
         ByteFinder rest;
         for (std::size_t member = 0; member < m_contains.size(); ++member)
             if (m_contains[member] && member != byte)

@@ -14,7 +14,7 @@ constexpr std::size_t c_carrySize = 0x1000; // beside the block: the token that 
 
 } // namespace
 
-SourceBuffer::SourceBuffer(std::string const& text)
+SourceBuffer::SourceBuffer(std::string_view text)
     : m_begin(text.data()),
       m_end(m_begin + text.size()),
       m_capacityEnd(m_end),

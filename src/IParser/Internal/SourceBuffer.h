@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <istream>
 #include <memory>
-#include <string>
+#include <string_view>
 
 namespace Vek::Framework::IParser::Native::Internal
 {
@@ -19,7 +19,7 @@ public:
     };
 
     /// All of `text`, which must outlive the buffer; nothing is copied.
-    explicit SourceBuffer(std::string const& text);
+    explicit SourceBuffer(std::string_view text);
     SourceBuffer(std::istream& stream, Reading reading);
 
     char const* GetBegin() const { return m_begin; }

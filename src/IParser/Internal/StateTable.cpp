@@ -1,24 +1,34 @@
 #include <IParser/Internal/StateTable.h>
 
+#include <Exceptions/ArgumentException.h>
+
 #include <algorithm>
 #include <stdexcept>
-#include <utility>
 
 namespace Vek::Framework::IParser::Native::Internal
 {
 
-State& StateTable::Add(std::unique_ptr<State> state)
+State& StateTable::Register(unsigned int id, StateParser::WhiteSpaceHandling whiteSpaceHandling)
 {
-    unsigned int const id = state->GetId();
-    State& added = *m_states.emplace_back(std::move(state));
+    if (Find(id) != nullptr)
+        throw ArgumentException();
+    std::unique_ptr<State> state(new State(id, m_activeRuns));
+    if (whiteSpaceHandling == StateParser::SkipWhiteSpace)
+        for (char const* const blank : { " ", "\t", "\r", "\n" })
+            state->RegisterSkipToken(blank, State::CaseSensitive);
+
+    State*& slot = MakeSlot(id);
+    slot = m_states.emplace_back(std::move(state)).get();
+    return *slot;
+}
+
+// A slot that stays empty, for want of memory, is as good as none.
+State*& StateTable::MakeSlot(unsigned int id)
+{
     if (id >= c_smallIdEnd)
-        m_largeIds.emplace(id, &added);
-    else
-    {
-        m_smallIds.resize(std::max<std::size_t>(m_smallIds.size(), id + 1));
-        m_smallIds[id] = &added;
-    }
-    return added;
+        return m_largeIds[id];
+    m_smallIds.resize(std::max<std::size_t>(m_smallIds.size(), id + 1));
+    return m_smallIds[id];
 }
 
 State* StateTable::FindLarge(unsigned int id) const

@@ -1,5 +1,7 @@
 #include <IXMLStreamer/Internal/OpenElements.h>
 
+#include <IXMLStreamer/Internal/KeptCapacity.h>
+
 namespace Vek::Framework::IXMLStreamer::Native::Internal
 {
 
@@ -7,6 +9,8 @@ void OpenElements::Clear()
 {
     m_names.clear();
     m_elements.clear();
+    ReleaseIfLarge(m_names);
+    ReleaseIfLarge(m_elements);
 }
 
 void OpenElements::Push(std::string_view name, ElementDescription const& description)

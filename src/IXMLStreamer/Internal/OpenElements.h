@@ -29,6 +29,7 @@ struct ElementDescription
 class OpenElements
 {
 public:
+    /// Also gives back what a deep document made the list allocate.
     void Clear();
     void Push(std::string_view name, ElementDescription const& description);
     /// Leaves the innermost element; there must be one.

@@ -42,6 +42,22 @@ constexpr ParserError FindTextError(unsigned int stateId)
     }
 }
 
+/// What the strict syntax expects where it refuses a text; empty where there is nothing to name.
+constexpr char const* FindStrictExpectation(unsigned int stateId)
+{
+    switch (stateId)
+    {
+    case DocumentStart:
+        return c_strictDeclarationStart;
+    case Undescribed:
+        return c_elementOrComment;
+    case AfterValue:
+        return c_tagEnd;
+    default:
+        return FindTextError(stateId).expectedSymbol;
+    }
+}
+
 /// The reader's error for a parser result that left no error of its own, over the whole range of parser results; code
 /// Ok where there is nothing to say. StateParser itself ends with Ok (the source ended too early) or InvalidSyntax
 /// only.

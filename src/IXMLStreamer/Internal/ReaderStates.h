@@ -25,7 +25,8 @@ enum ReaderState : unsigned int
     Comment = 16,
     NamedCode = 17,
     NumericCode = 18,
-    HexadecimalCode = 19 ///< never entered: such a code is refused where it begins
+    HexadecimalCode = 19, ///< never entered: such a code is refused where it begins
+    AfterValue = 20       ///< of an attribute, in the strict syntax only
 };
 
 } // namespace Vek::Framework::IXMLStreamer::Native::Internal

@@ -1,5 +1,6 @@
 #include <IXMLStreamer/Internal/XMLStreamerReader.h>
 
+#include <IXMLStreamer/Internal/Declaration.h>
 #include <IXMLStreamer/Internal/ExpectedSymbols.h>
 #include <IXMLStreamer/Internal/ReaderStates.h>
 #include <IXMLStreamer/XMLCodes.h>
@@ -12,6 +13,18 @@ namespace Vek::Framework::IXMLStreamer::Native
 {
 
 using namespace Internal;
+
+// The declaration, in pieces without the blanks between them.
+void XMLStreamer::Reader::AppendDeclaration(std::string_view text, Params&)
+{
+    m_value.append(text).append(1, ' ');
+}
+
+void XMLStreamer::Reader::EndDeclaration(Params& params)
+{
+    m_declaredEncoding = FindEncoding(m_value);
+    params.nextStateId = ElementLevel;
+}
 
 void XMLStreamer::Reader::BeginComment(Params& params)
 {
@@ -196,14 +209,21 @@ void XMLStreamer::Reader::EndCode(Params& params)
         RaiseError(StreamerError::InvalidCode, c_namedCode, params);
 }
 
-void XMLStreamer::Reader::EndNumericCode(Params& params)
+// From 1 to 255; 0 for what is no such number.
+unsigned int XMLStreamer::Reader::GetCodeNumber() const
 {
     constexpr unsigned int c_end = 256;
     unsigned int number = 0;
     for (char const digit : m_code)
         number = digit >= '0' && digit <= '9' ? std::min(number * 10 + static_cast<unsigned int>(digit - '0'), c_end)
                                               : c_end;
-    if (number > 0 && number < c_end)
+    return number < c_end ? number : 0;
+}
+
+void XMLStreamer::Reader::EndNumericCode(Params& params)
+{
+    unsigned int const number = GetCodeNumber();
+    if (number != 0)
         AppendDecoded(static_cast<char>(number), params);
     else
         RaiseError(StreamerError::InvalidCode, c_numericCode, params);

@@ -1,6 +1,8 @@
 #include <IXMLStreamer/Internal/XMLStreamerReader.h>
 
 #include <Exceptions/InvalidStateException.h>
+#include <IParser/Internal/StateProcessor.h>
+#include <IXMLStreamer/Internal/KeptCapacity.h>
 #include <IXMLStreamer/Internal/ParserErrorTable.h>
 #include <IXMLStreamer/Internal/ReaderStates.h>
 
@@ -10,6 +12,16 @@ namespace Vek::Framework::IXMLStreamer::Native
 {
 
 using IParser::Native::ParserResult;
+using IParser::Native::StateProcessor;
+using IParser::Native::Internal::SourceBuffer;
+
+namespace
+{
+
+constexpr Internal::NameBytes c_bytesOfWindows1252(Internal::NameBytes::HighBytes::Windows1252);
+constexpr Internal::NameBytes c_bytesOfAnyEncoding(Internal::NameBytes::HighBytes::Any);
+
+} // namespace
 
 /// Marks the reader as running; what only the run needed goes with it.
 class XMLStreamer::Reader::Running
@@ -22,18 +34,20 @@ public:
     {
         m_reader.m_isRunning = false;
         m_reader.m_replacedRoots.clear();
+        m_reader.ReleaseMemory();
     }
 
 private:
     Reader& m_reader;
 };
 
-XMLStreamer::Reader::Reader()
-{
-    InitializeParser();
-}
-
+XMLStreamer::Reader::Reader() = default;
 XMLStreamer::Reader::~Reader() = default;
+
+XMLStreamer::Reader& XMLStreamer::Reader::GetReader(Params& params)
+{
+    return *static_cast<Reader*>(static_cast<IParser::Native::Internal::CallParams&>(params).owner);
+}
 
 XMLStructureElement& XMLStreamer::Reader::CreateRoot(std::string const& name)
 {
@@ -54,7 +68,8 @@ void XMLStreamer::Reader::SetOnUnknownAttribute(unsigned int version, AttributeH
     m_onUnknownAttribute.SetFunction(version, std::move(handler));
 }
 
-bool XMLStreamer::Reader::Process(std::istream& stream)
+template <class... Source>
+bool XMLStreamer::Reader::Process(Source&&... source)
 {
     if (m_isRunning)
         throw InvalidStateException();
@@ -66,12 +81,23 @@ bool XMLStreamer::Reader::Process(std::istream& stream)
     }
 
     Running const running(*this);
-    m_parser.ProcessSource(stream, true);
-    m_result = m_parser.GetParserResult();
+    m_result = StateProcessor(m_syntax == Lenient ? GetLenientStates() : GetStrictStates(), this,
+                              std::forward<Source>(source)...)
+                   .Process();
     if (m_result.IsSuccess() && m_result.stateId == Internal::AfterRoot)
         return true;
     RaiseError(m_result);
     return false;
+}
+
+bool XMLStreamer::Reader::ProcessStream(std::istream& stream)
+{
+    return Process(stream, SourceBuffer::Reading::ByBlock);
+}
+
+bool XMLStreamer::Reader::ProcessText(std::string_view text)
+{
+    return Process(text);
 }
 
 void XMLStreamer::Reader::Reset()
@@ -79,6 +105,23 @@ void XMLStreamer::Reader::Reset()
     m_error = StreamerError();
     m_result = ParserResult();
     m_openElements.Clear();
+    m_declaredEncoding.clear();
+    m_value.clear();
+    m_takesAnyEncoding = m_syntax == StrictInAnyEncoding;
+    m_nameBytes = m_takesAnyEncoding ? &c_bytesOfAnyEncoding : &c_bytesOfWindows1252;
+}
+
+// One long value or deep document must not cost memory for ever. The names of the elements that are open after a
+// failure are kept for GetOpenElementPath.
+void XMLStreamer::Reader::ReleaseMemory()
+{
+    Internal::ReleaseIfLarge(m_value);
+    Internal::ReleaseIfLarge(m_code);
+    Internal::ReleaseIfLarge(m_attributeName);
+    Internal::ReleaseIfLarge(m_declaredEncoding);
+    m_attributeNames.Shrink();
+    if (m_openElements.IsEmpty())
+        m_openElements.Clear();
 }
 
 // A child that a handler registers twice leaves an error, but does not end the run; what ends it counts.
@@ -87,8 +130,12 @@ bool XMLStreamer::Reader::HasFailed() const
     return m_error.GetErrorCode() != StreamerError::Ok && m_error.GetErrorCode() != StreamerError::DuplicateName;
 }
 
+// The place of what is unsupported counts as the others' do not: it is what has to be taken out of the document.
 void XMLStreamer::Reader::RaiseError(ParserResult const& result)
 {
+    if (m_error.GetErrorCode() == StreamerError::UnsupportedSyntax)
+        m_error.RaiseError(StreamerError::UnsupportedSyntax, result.line, result.column,
+                           std::string(m_error.GetExpectedSymbol()));
     if (HasFailed())
         return;
     Internal::ParserError const error = Internal::FindParserError(result.resultCode, result.stateId);

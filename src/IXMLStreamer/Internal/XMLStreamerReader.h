@@ -1,18 +1,22 @@
 #pragma once
 
-#include <IParser/StateParser.h>
+#include <IParser/Internal/StateTable.h>
+#include <IXMLStreamer/Internal/AttributeNames.h>
+#include <IXMLStreamer/Internal/NameBytes.h>
 #include <IXMLStreamer/Internal/OpenElements.h>
 #include <IXMLStreamer/VersionedFunctionCollection.h>
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLStreamer.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Vek::Framework::IXMLStreamer::Native
 {
 
-/// The states of the document, the consumers of their tokens, and what is known of the document so far.
+/// The consumers of the document's states, and what is known of the document so far. The states themselves, one table
+/// for each syntax, belong to nobody and serve all readers.
 class XMLStreamer::Reader
 {
 public:
@@ -24,54 +28,64 @@ public:
     XMLStructureElement& CreateRoot(std::string const& name);
     void SetVersion(unsigned int version) { m_version = version; }
     unsigned int GetVersion() const { return m_version; }
+    void SetSyntax(Syntax syntax) { m_syntax = syntax; }
+    Syntax GetSyntax() const { return m_syntax; }
     void SetOnUnknownElement(unsigned int version, UnknownElementHandler handler);
     void SetOnUnknownAttribute(unsigned int version, AttributeHandler handler);
 
-    bool Process(std::istream& stream);
+    bool ProcessStream(std::istream& stream);
+    bool ProcessText(std::string_view text);
 
     StreamerError& GetError() { return m_error; }
     IParser::Native::ParserResult const& GetParserResult() const { return m_result; }
     std::string GetOpenElementPath() const { return m_openElements.GetPath(); }
+    std::string const& GetDeclaredEncoding() const { return m_declaredEncoding; }
 
 private:
     using State = IParser::Native::State;
+    using StateTable = IParser::Native::Internal::StateTable;
     using Params = State::ResultParams;
     class Running;
+    class TableMaker;
+    class LenientTable;
+    class StrictTable;
 
-    // The state table.
-    void InitializeParser();
-    void RegisterProlog();
-    void RegisterElementLevel();
-    void RegisterStartTag();
-    void RegisterValues();
-    void RegisterContent();
-    void RegisterEndTag();
-    void RegisterCodes();
-    State& RegisterState(unsigned int id, IParser::Native::StateParser::WhiteSpaceHandling whiteSpace);
-    void RegisterComment(State& state);
-    void RegisterXMLCodes(State& state);
-    template <auto handler>
-    void OnToken(State& state, char const* text);
-    template <auto handler>
-    void OnText(State& state);
+    template <class... Source>
+    bool Process(Source&&... source);
+    static Reader& GetReader(Params& params);
+    static StateTable const& GetLenientStates();
+    static StateTable const& GetStrictStates();
 
     // The short way through plain markup.
-    void RegisterPlainMarkup(State& state);
+    template <bool isStrict>
     char const* ReadPlainMarkup(char const* at, char const* end, Params& params);
+    template <bool isStrict>
     char const* ReadConstruct(char const* at, char const* end, Params& params);
+    template <bool isStrict>
     char const* ReadTag(char const* at, char const* end, Params& params);
+    template <bool isStrict>
+    static char const* FindTag(char const* at, char const* end);
+    template <bool isStrict>
+    char const* FindElementNameEnd(char const* name, char const* end) const;
+    template <bool isStrict>
+    char const* FindAttributeNameEnd(char const* name, char const* end) const;
     char const* ReadEndTag(char const* at, Params& params);
+    template <bool isStrict>
     char const* ReadStartTagPiece(char const* at, char const* end, Params& params);
+    template <bool isStrict>
     char const* ReadAttribute(char const* at, char const* end, Params& params);
+    template <bool isStrict>
     char const* ReadContent(char const* at, char const* end, Params& params);
     bool IsEndTag(char const* at, char const* end) const;
-    template <char stop>
+    template <bool isStrict, char stop>
     char const* AppendPlainText(char const* at, char const* end);
     char const* AppendNamedCode(char const* at, char const* end);
     template <auto consumer, class... Text>
     bool Consume(unsigned int state, Params& params, Text const&... text);
 
     // Consumers, in the order of a document.
+    void AppendDeclaration(std::string_view text, Params& params);
+    void EndDeclaration(Params& params);
     void BeginComment(Params& params);
     void EndComment(Params& params);
     void BeginEndTag(Params& params);
@@ -93,35 +107,56 @@ private:
     void EndCode(Params& params);
     void EndNumericCode(Params& params);
 
+    // Their like in the strict syntax, where it differs.
+    void PassByteOrderMark(Params& params);
+    void SetDeclarationRest(std::string_view text, Params& params);
+    void EndDeclarationStrictly(Params& params);
+    void BeginElementStrictly(std::string_view name, Params& params);
+    void SetAttributeNameStrictly(std::string_view name, Params& params);
+    void EndAttributeStrictly(Params& params);
+    void EndEmptyElementStrictly(Params& params);
+    void EndContentStrictly(Params& params);
+    void EndNumericCodeStrictly(Params& params);
+    void RefuseText(std::string_view text, Params& params);
+    void RefuseToken(Params& params);
+
     Internal::ElementDescription FindDescription(std::string_view name) const;
     bool CallAttributeHandler() const;
     bool CallBeginHandler() const;
     bool CallContentHandler(std::string const& content) const;
     bool CallEndHandler() const;
+    unsigned int GetCodeNumber() const;
     void AppendDecoded(char symbol, Params& params);
 
     void Reset();
+    void ReleaseMemory();
     bool HasFailed() const;
     void RaiseError(IParser::Native::ParserResult const& result);
     void RaiseError(StreamerError::ResultCode code, std::string const& expectedSymbol, Params& params);
     void RequireAgreement(bool isAgreed, Params& params);
 
-    IParser::Native::StateParser m_parser;
     IParser::Native::ParserResult m_result;
     StreamerError m_error;
     std::unique_ptr<XMLStructureElement> m_root;
     std::vector<std::unique_ptr<XMLStructureElement>> m_replacedRoots; // during a run, which may be inside them
     unsigned int m_version = 0;
+    Syntax m_syntax = Lenient;
     VersionedFunctionCollection<UnknownElementHandler> m_onUnknownElement;
     VersionedFunctionCollection<AttributeHandler> m_onUnknownAttribute;
     bool m_isRunning = false;
 
     Internal::OpenElements m_openElements;
+    std::string m_declaredEncoding;
     std::string m_attributeName;
     std::string m_value; // of an attribute or a content element, which cannot overlap
     std::string m_code;
     unsigned int m_stateBeforeComment = 0;
     unsigned int m_stateBeforeCode = 0;
+
+    // Of a run in the strict syntax.
+    bool m_takesAnyEncoding = false;
+    Internal::NameBytes const* m_nameBytes = nullptr;
+    Internal::AttributeNames m_attributeNames; // of the start tag that is read
 };
 
 } // namespace Vek::Framework::IXMLStreamer::Native

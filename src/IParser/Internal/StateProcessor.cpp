@@ -1,4 +1,4 @@
-#include <IParser/StateProcessor.h>
+#include <IParser/Internal/StateProcessor.h>
 
 #include <IParser/Internal/Ascii.h>
 #include <IParser/Internal/NumberText.h>
@@ -160,7 +160,7 @@ bool StateProcessor::ConsumeInBulk()
     State::BulkConsumer const& consumer = *m_state->m_bulkConsumer;
     if (!consumer || m_textStart == m_source.GetEnd())
         return true;
-    State::ResultParams params = PrepareCall();
+    Internal::CallParams params = PrepareCall();
     m_textStart = consumer(m_textStart, m_source.GetEnd(), params);
     SwitchState(params.nextStateId);
     return IsGoingOn(params);
@@ -233,18 +233,18 @@ std::string const& StateProcessor::GetPendingText(char const* end)
     return m_text;
 }
 
-State::ResultParams StateProcessor::PrepareCall()
+Internal::CallParams StateProcessor::PrepareCall()
 {
     // In an inner run, one of them may be running further out.
     if (!m_state->m_replacedConsumers.empty() && m_state->m_activeRuns == 1)
         m_state->ForgetReplacedConsumers();
-    return { m_state->m_id, false, false, GetOffset() };
+    return { { m_state->m_id, false, false, GetOffset() }, m_owner };
 }
 
 template <class Call>
 bool StateProcessor::InvokeConsumer(Call const& call)
 {
-    State::ResultParams params = PrepareCall();
+    Internal::CallParams params = PrepareCall();
     call(params);
     if (!IsGoingOn(params))
         return false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <IParser/Internal/CallParams.h>
 #include <IParser/Internal/SourceBuffer.h>
 #include <IParser/Internal/SourcePosition.h>
 #include <IParser/Internal/StateTable.h>
@@ -12,7 +13,7 @@
 namespace Vek::Framework::IParser::Native
 {
 
-/// One run of a StateParser over one source.
+/// One run over one source, for `owner`. There must be a state.
 ///
 /// What is consumed ends at m_textStart; the pending text runs from there to the token that is looked for. Text that
 /// the buffer has no room for moves to m_text, and m_textStart to the buffer's front.
@@ -20,9 +21,10 @@ class StateProcessor
 {
 public:
     template <class... Source>
-    StateProcessor(Internal::StateTable const& states, State& initialState, Source&&... source)
+    StateProcessor(Internal::StateTable const& states, void* owner, Source&&... source)
         : m_states(states),
-          m_state(&initialState),
+          m_state(states.GetInitialState()),
+          m_owner(owner),
           m_source(std::forward<Source>(source)...),
           m_base(m_source.GetBegin()),
           m_textStart(m_base)
@@ -47,7 +49,7 @@ private:
     bool ConsumeText(char const* end);
     bool ConsumeNumberOrText(char const* end);
     std::string const& GetPendingText(char const* end);
-    State::ResultParams PrepareCall();
+    Internal::CallParams PrepareCall();
     template <class Call>
     bool InvokeConsumer(Call const& call);
     bool IsGoingOn(State::ResultParams const& params);
@@ -59,6 +61,7 @@ private:
 
     Internal::StateTable const& m_states;
     State* m_state;
+    void* m_owner;
     Internal::SourceBuffer m_source;
 
     Internal::SourcePosition m_position; // of m_base, or of the pending text once that was set aside

@@ -1,0 +1,36 @@
+#include <IXMLStreamer/Internal/AttributeNames.h>
+
+#include <IXMLStreamer/Internal/KeptCapacity.h>
+
+namespace Vek::Framework::IXMLStreamer::Native::Internal
+{
+
+void AttributeNames::ClearAll()
+{
+    m_ordered.clear();
+    m_kept.clear();
+    m_names.clear();
+}
+
+void AttributeNames::AddInOrder()
+{
+    for (std::size_t i = m_ordered.size(); i < m_names.size(); ++i)
+        m_ordered.insert(i);
+}
+
+void AttributeNames::Keep()
+{
+    while (m_kept.size() < m_names.size())
+    {
+        std::string_view& name = m_names[m_kept.size()];
+        name = m_kept.emplace_back(name);
+    }
+}
+
+void AttributeNames::Shrink()
+{
+    ClearAll();
+    ReleaseIfLarge(m_names);
+}
+
+} // namespace Vek::Framework::IXMLStreamer::Native::Internal
