@@ -1,19 +1,13 @@
 #include <Utilities/DecimalHash.h>
 
 #include <Utilities/Internal/DecimalArithmetic/Encoding.h>
+#include <Utilities/Internal/MixHash.h>
 
 namespace
 {
 
 using namespace Vek::Framework::Utilities::DecimalArithmetic;
-
-/// The finalizer of SplitMix64 (Steele, Lea, Flood 2014): every bit of the value moves half of the result's.
-constexpr std::uint64_t Mix(std::uint64_t value) noexcept
-{
-    value = (value ^ value >> 30U) * 0xBF58476D1CE4E5B9;
-    value = (value ^ value >> 27U) * 0x94D049BB133111EB;
-    return value ^ value >> 31U;
-}
+using Vek::Framework::Utilities::MixHash;
 
 /// Of equal numbers, those without zeros at the end are one.
 std::uint64_t HashFinite(Encoding encoding) noexcept
@@ -23,7 +17,7 @@ std::uint64_t HashFinite(Encoding encoding) noexcept
         return 0;
     value.exponent += StripZeros(value.coefficient, c_precision);
     auto const tail = static_cast<std::uint64_t>(value.exponent) << 1U | (value.isNegative ? 1U : 0U);
-    return Mix(Mix(Mix(value.coefficient.low) + value.coefficient.high) + tail);
+    return MixHash(MixHash(MixHash(value.coefficient.low) + value.coefficient.high) + tail);
 }
 
 } // namespace

@@ -15,11 +15,15 @@ def check():
 
     gdb.execute("break StopHere", to_string=True)
     gdb.execute("run", to_string=True)
-    samples, numbers = (gdb.selected_frame().read_var(name) for name in ("samples", "numbers"))
+    samples, numbers, shapes = (gdb.selected_frame().read_var(name) for name in ("samples", "numbers", "shapes"))
     for i in range(int(gdb.selected_frame().read_var("size"))):
         expect(samples[i]["value"].format_string(), samples[i]["text"].string())
     for i in range(1000):
         expect(numbers[i].format_string(), str(i))
+    values = ", ".join(str(value) for value in range(5, 1500, 2)[:199])  # the first 200 intervals
+    for name, text in (("point", "(1, -2)"), ("size", "3 x 4"), ("rectangle", "(1, -2)-(30, 40)"), ("none", ""),
+                       ("range", "-1-3, " + values + ", ..."), ("rgb", "#8012ABFF"), ("bgra", "#8012ABFF")):
+        expect(shapes[name].format_string(), text)
     for failure in failures:
         print(failure)
     print("%d values, %d wrong" % (checked, len(failures)))

@@ -1,8 +1,12 @@
-// What a debugger is stopped in: decimals of every kind, and all numbers of three digits in every declet of the first.
+// What a debugger is stopped in: decimals of every kind, all numbers of three digits in every declet of the first, and
+// one of each shape and colour.
 
+#include <Utilities/ColorBase.h>
 #include <Utilities/Decimal.h>
+#include <Utilities/IntRange.h>
+#include <Utilities/IntRectangle.h>
 
-using Vek::Framework::Utilities::Decimal;
+using namespace Vek::Framework::Utilities;
 
 namespace
 {
@@ -18,9 +22,20 @@ Decimal Read(wchar_t const* text)
     return Decimal::FromString(text, L'.');
 }
 
-void StopHere(Sample const* samples, int size, Decimal const* numbers)
+struct Shapes
 {
-    void const volatile* const seen[] = { samples, numbers };
+    IntPoint point{ 1, -2 };
+    IntSize size{ 3, 4 };
+    IntRectangle rectangle = IntRectangle::FromCornerPoints(1, -2, 30, 40);
+    IntRange none;
+    IntRange range{ -1, 3 };
+    ColorBase<RGBChannel> rgb{ 0x12, 0xAB, 0xFF, 0x80 };
+    ColorBase<BGRAChannel> bgra{ 0x12, 0xAB, 0xFF, 0x80 };
+};
+
+void StopHere(Sample const* samples, int size, Decimal const* numbers, Shapes const& shapes)
+{
+    void const volatile* const seen[] = { samples, numbers, &shapes };
     static_cast<void>(seen);
     static_cast<void>(size);
 }
@@ -47,5 +62,8 @@ int main()
     Decimal numbers[1000];
     for (int i = 0; i < 1000; ++i)
         numbers[i] = i;
-    StopHere(samples, static_cast<int>(sizeof(samples) / sizeof(samples[0])), numbers);
+    Shapes shapes;
+    for (int value = 5; value < 1500; value += 2)
+        shapes.range.AddRange(value, value);
+    StopHere(samples, static_cast<int>(sizeof(samples) / sizeof(samples[0])), numbers, shapes);
 }

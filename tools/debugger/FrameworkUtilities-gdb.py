@@ -1,9 +1,10 @@
-"""Shows Decimal as its number in GDB: 12.50, -0.05, 1E+20, Infinity, NaN.
+"""Shows Decimal as its number in GDB: 12.50, -0.05, 1E+20, Infinity, NaN; points, sizes and rectangles as (1, 2), 3 x 4
+and (1, 2)-(4, 6), ranges as 1-3, 7 and colours as #AARRGGBB.
 
     (gdb) source <prefix>/share/FrameworkUtilities/FrameworkUtilities-gdb.py
 
-The notation is to-scientific-string of the General Decimal Arithmetic (Cowlishaw): unlike Decimal::ToString it keeps the
-exponent, so that 3E+2 and 300 can be told apart.
+The notation of decimals is to-scientific-string of the General Decimal Arithmetic (Cowlishaw): unlike Decimal::ToString
+it keeps the exponent, so that 3E+2 and 300 can be told apart.
 """
 
 import gdb
@@ -11,7 +12,7 @@ import gdb.printing
 
 BIAS = 6176
 DECLETS = 11
-PATTERN = "^Vek::Framework::Utilities::Decimal$"
+NAMESPACE = "^Vek::Framework::Utilities::"
 
 
 def unpack_declet(declet):
@@ -64,9 +65,76 @@ class DecimalPrinter:
         return to_text(int(self.value["m_high"]) << 64 | int(self.value["m_low"]))
 
 
+def to_pair(value, first, separator, second):
+    return "%d%s%d" % (int(value[first]), separator, int(value[second]))
+
+
+class PointPrinter:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        return "(" + to_pair(self.value, "m_x", ", ", "m_y") + ")"
+
+
+class SizePrinter:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        return to_pair(self.value, "m_width", " x ", "m_height")
+
+
+class RectanglePrinter:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        return "-".join(PointPrinter(self.value[corner]).to_string() for corner in ("m_topLeft", "m_bottomRight"))
+
+
+def get_elements(vector):
+    begin = vector["_M_impl"]["_M_start"]
+    return (begin[i] for i in range(int(vector["_M_impl"]["_M_finish"] - begin)))
+
+
+class RangePrinter:
+    LIMIT = 200  # intervals
+
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        texts = []
+        for leaf in get_elements(self.value["m_leaves"]):
+            for interval in get_elements(leaf):
+                if len(texts) == self.LIMIT:
+                    return ", ".join(texts) + ", ..."
+                isOne = interval["from"] == interval["to"]
+                texts.append(str(int(interval["from"])) if isOne else to_pair(interval, "from", "-", "to"))
+        return ", ".join(texts)
+
+
+class ColorPrinter:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        word = int(self.value["m_word"])
+        lowest, green, third, alpha = (word >> shift & 0xFF for shift in (0, 8, 16, 24))
+        isBlueLowest = "BGRA" in str(self.value.type.strip_typedefs())
+        red, blue = (third, lowest) if isBlueLowest else (lowest, third)
+        return "#%02X%02X%02X%02X" % (alpha, red, green, blue)
+
+
 def make_printers():
     printers = gdb.printing.RegexpCollectionPrettyPrinter("FrameworkUtilities")
-    printers.add_printer("Decimal", PATTERN, DecimalPrinter)
+    printers.add_printer("Decimal", NAMESPACE + "Decimal$", DecimalPrinter)
+    printers.add_printer("IntPoint", NAMESPACE + "IntPoint$", PointPrinter)
+    printers.add_printer("IntSize", NAMESPACE + "IntSize$", SizePrinter)
+    printers.add_printer("IntRectangle", NAMESPACE + "IntRectangle$", RectanglePrinter)
+    printers.add_printer("IntRange", NAMESPACE + "IntRange$", RangePrinter)
+    printers.add_printer("ColorBase", NAMESPACE + "ColorBase<.*>$", ColorPrinter)
     return printers
 
 

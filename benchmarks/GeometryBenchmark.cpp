@@ -1,0 +1,160 @@
+// Sets of integers beside std::set and Boost's interval set; hashes of colours beside a loop over their bytes.
+
+#include <Utilities/ColorBase.h>
+#include <Utilities/IntRange.h>
+
+#include <benchmark/benchmark.h>
+#include <boost/icl/interval_set.hpp>
+
+#include <algorithm>
+#include <cstdint>
+#include <random>
+#include <set>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace Benchmarks
+{
+
+namespace
+{
+
+using namespace Vek::Framework::Utilities;
+using BoostSet = boost::icl::interval_set<int>;
+
+constexpr int c_size = 1'000'000;
+
+void Add(IntRange& set, int value)
+{
+    set.AddRange(value, value);
+}
+
+void Add(std::set<int>& set, int value)
+{
+    set.insert(value);
+}
+
+void Add(BoostSet& set, int value)
+{
+    set.add(value);
+}
+
+bool Contains(IntRange const& set, int value)
+{
+    return set.Contains(value);
+}
+
+bool Contains(std::set<int> const& set, int value)
+{
+    return set.contains(value);
+}
+
+bool Contains(BoostSet const& set, int value)
+{
+    return boost::icl::contains(set, value);
+}
+
+template <class Set>
+Set MakeSet(std::vector<int> const& values)
+{
+    Set set;
+    for (int value : values)
+        Add(set, value);
+    return set;
+}
+
+template <class Set>
+int CountFound(Set const& set, std::vector<int> const& values)
+{
+    int count = 0;
+    for (int value : values)
+        count += Contains(set, value) ? 1 : 0;
+    return count;
+}
+
+template <class Set>
+unsigned int AddUp(Set const& set)
+{
+    unsigned int sum = 0;
+    for (int value : set)
+        sum += static_cast<unsigned int>(value);
+    return sum;
+}
+
+template <class Work>
+void Register(std::string const& name, int items, Work const& work)
+{
+    auto const run = [=](benchmark::State& state)
+    {
+        for (auto _ : state)
+        {
+            auto const result = work();
+            benchmark::DoNotOptimize(&result);
+            benchmark::ClobberMemory();
+        }
+        state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * items);
+    };
+    benchmark::RegisterBenchmark(name.c_str(), run)->Unit(benchmark::kMillisecond);
+}
+
+template <class Set>
+void RegisterSet(std::string const& name, std::vector<int> const& scattered, std::vector<int> const& ascending,
+                 std::vector<int> const& sought)
+{
+    Register("IntRangeAddScattered/" + name, c_size, [=] { return MakeSet<Set>(scattered); });
+    Register("IntRangeAddAscending/" + name, c_size, [=] { return MakeSet<Set>(ascending); });
+    auto const set = MakeSet<Set>(scattered);
+    Register("IntRangeFind/" + name, c_size, [=] { return CountFound(set, sought); });
+    if constexpr (!std::is_same_v<Set, BoostSet>) // it walks its intervals
+        Register("IntRangeWalk/" + name, c_size, [=] { return AddUp(set); });
+}
+
+unsigned long long HashPlainly(ColorBase<BGRAChannel> const& color)
+{
+    unsigned long long hash = 0xCBF29CE484222325;
+    for (int i = 0; i < 4; ++i)
+        hash = (hash ^ color.Get(static_cast<BGRAChannel>(i))) * 0x100000001B3;
+    return hash;
+}
+
+template <class Hash>
+void RegisterHash(std::string const& name, std::vector<ColorBase<BGRAChannel>> const& colors, Hash const& hash)
+{
+    Register("ColorHash/" + name, static_cast<int>(colors.size()),
+             [=]
+             {
+                 unsigned long long sum = 0;
+                 for (ColorBase<BGRAChannel> const& color : colors)
+                     sum += hash(color);
+                 return sum;
+             });
+}
+
+} // namespace
+
+[[maybe_unused]] static bool const s_isRegistered = []
+{
+    std::mt19937 random(1);
+    std::vector<int> scattered, ascending;
+    std::vector<ColorBase<BGRAChannel>> colors;
+    for (int i = 0; i < c_size; ++i)
+    {
+        scattered.push_back(static_cast<int>(random()));
+        ascending.push_back(2 * i);
+    }
+    for (int i = 0; i < 4096; ++i)
+        colors.emplace_back(scattered[static_cast<std::size_t>(i)], 0, 0, 0);
+    std::vector<int> sought = scattered; // half of them there
+    for (std::size_t i = 0; i < sought.size(); i += 2)
+        sought[i] = static_cast<int>(random());
+    std::shuffle(sought.begin(), sought.end(), random);
+    RegisterSet<IntRange>("ours", scattered, ascending, sought);
+    RegisterSet<std::set<int>>("std_set", scattered, ascending, sought);
+    RegisterSet<BoostSet>("boost_icl", scattered, ascending, sought);
+    RegisterHash("ours", colors, [](auto const& color) { return color.GetHashCode(); });
+    RegisterHash("plain_loop", colors, HashPlainly);
+    return true;
+}();
+
+} // namespace Benchmarks
