@@ -20,8 +20,8 @@ constexpr bool HasPoints(IntRectangle const& rectangle) noexcept
 constexpr Nullable<IntRectangle> Intersect(IntRectangle const& a, IntRectangle const& b) noexcept
 {
     IntRectangle const shared = IntRectangle::FromCornerPoints(
-        std::max(a.GetLeftX(), b.GetLeftX()), std::max(a.GetTopY(), b.GetTopY()),
-        std::min(a.GetRightX(), b.GetRightX()), std::min(a.GetBottomY(), b.GetBottomY()));
+        (std::max)(a.GetLeftX(), b.GetLeftX()), (std::max)(a.GetTopY(), b.GetTopY()),
+        (std::min)(a.GetRightX(), b.GetRightX()), (std::min)(a.GetBottomY(), b.GetBottomY()));
     return HasPoints(shared) ? Nullable<IntRectangle>(shared) : Nullable<IntRectangle>();
 }
 
@@ -32,9 +32,9 @@ constexpr IntRectangle Unite(IntRectangle const& a, IntRectangle const& b) noexc
         return a;
     if (!HasPoints(a))
         return b;
-    return IntRectangle::FromCornerPoints(std::min(a.GetLeftX(), b.GetLeftX()), std::min(a.GetTopY(), b.GetTopY()),
-                                          std::max(a.GetRightX(), b.GetRightX()),
-                                          std::max(a.GetBottomY(), b.GetBottomY()));
+    return IntRectangle::FromCornerPoints((std::min)(a.GetLeftX(), b.GetLeftX()), (std::min)(a.GetTopY(), b.GetTopY()),
+                                          (std::max)(a.GetRightX(), b.GetRightX()),
+                                          (std::max)(a.GetBottomY(), b.GetBottomY()));
 }
 
 /// Each edge moved outwards, left and right ones by `horizontally`, top and bottom ones by `vertically`: the rectangle
