@@ -3,32 +3,6 @@
 namespace VekSysBase::Internal
 {
 
-namespace
-{
-
-int CountOutsideBefore(FreeDays kind, BusinessYear const& year, int day)
-{
-    return day - year.Get(kind).CountBefore(day);
-}
-
-/// The day that `number` others outside the set precede in its year.
-int FindByNumber(FreeDays kind, BusinessYear const& year, int number)
-{
-    int low = number; // there are that many days before it at least
-    int high = year.length - 1;
-    while (low < high)
-    {
-        int const middle = (low + high) / 2;
-        if (CountOutsideBefore(kind, year, middle + 1) > number)
-            high = middle;
-        else
-            low = middle + 1;
-    }
-    return low;
-}
-
-} // namespace
-
 YearDay GetYearDay(VekDateEx const& date)
 {
     int const index = GetDayOfYear(date.GetDay(), date.GetMonth(), date.GetYear()) - 1;
@@ -88,21 +62,64 @@ YearDay FindOutside(FreeDays kind, YearDay day, int direction)
     return day;
 }
 
+namespace
+{
+
+int CountOutside(DaySet const& set, int from, int to)
+{
+    return to - from - (set.CountBefore(to) - set.CountBefore(from));
+}
+
+YearDay AddAfter(FreeDays kind, YearDay day, long long number)
+{
+    for (;; day = { day.year + 1, -1 })
+    {
+        BusinessYear const& year = GetBusinessYear(day.year);
+        DaySet const& set = year.Get(kind);
+        int const left = CountOutside(set, day.index + 1, year.length);
+        if (number > left)
+        {
+            number -= left;
+            continue;
+        }
+        // As many days on as are wanted, then as many as were in the set, until none was.
+        for (int days = static_cast<int>(number); days > 0;)
+        {
+            int const before = set.CountBefore(day.index + 1);
+            day.index += days;
+            days = set.CountBefore(day.index + 1) - before;
+        }
+        return day;
+    }
+}
+
+/// The same the other way.
+YearDay AddBefore(FreeDays kind, YearDay day, long long number)
+{
+    for (;; day = { day.year - 1, GetBusinessYear(day.year - 1).length })
+    {
+        DaySet const& set = GetBusinessYear(day.year).Get(kind);
+        int const left = CountOutside(set, 0, day.index);
+        if (number > left)
+        {
+            number -= left;
+            continue;
+        }
+        for (int days = static_cast<int>(number); days > 0;)
+        {
+            int const before = set.CountBefore(day.index);
+            day.index -= days;
+            days = before - set.CountBefore(day.index);
+        }
+        return day;
+    }
+}
+
+} // namespace
+
 YearDay AddOutside(FreeDays kind, YearDay day, long long number)
 {
-    if (number == 0)
-        return day;
-    // As if counted from the year's first day outside the set, which is number 0.
-    BusinessYear const* year = &GetBusinessYear(day.year);
-    number += CountOutsideBefore(kind, *year, number > 0 ? day.index + 1 : day.index) - (number > 0 ? 1 : 0);
-    while (number < 0)
-    {
-        year = &GetBusinessYear(--day.year);
-        number += CountOutsideBefore(kind, *year, year->length);
-    }
-    for (int count; number >= (count = CountOutsideBefore(kind, *year, year->length)); number -= count)
-        year = &GetBusinessYear(++day.year);
-    return { day.year, FindByNumber(kind, *year, static_cast<int>(number)) };
+    return number < 0 ? AddBefore(kind, day, -number) : AddAfter(kind, day, number);
 }
 
 } // namespace VekSysBase::Internal

@@ -2,6 +2,9 @@
 
 #include <SysBase/Internal/DayNumbers.h>
 
+#include <span>
+#include <utility>
+
 namespace VekSysBase::Internal
 {
 
@@ -34,26 +37,27 @@ public:
 
     constexpr BusinessYear Build() const
     {
-        DaySet weekends;
+        Days weekends{};
         for (int sunday = m_easter % 7; sunday <= GetLength(); sunday += 7)
         {
             if (sunday > 0)
-                weekends.Insert(sunday - 1);
+                Insert(weekends, sunday - 1);
             if (sunday < GetLength())
-                weekends.Insert(sunday);
+                Insert(weekends, sunday);
         }
-        DaySet bank = With(weekends, c_fixedFeiertage, c_movableFeiertage);
-        bank.Insert(GetDay({ 24, 12 }));
-        BusinessYear year{ GetLength(),
-                           { With({}, c_fixedFeiertage, c_movableFeiertage),
-                             With(weekends, c_fixedFeiertage, c_movableFeiertage), bank,
-                             With(weekends, c_fixedTargetDays, c_movableTargetDays) } };
-        for (DaySet& set : year.sets)
-            set.Finish();
-        return year;
+        Days const werktag = With(weekends, c_fixedFeiertage, c_movableFeiertage);
+        Days bankwerktag = werktag;
+        Insert(bankwerktag, GetDay({ 24, 12 }));
+        return { GetLength(),
+                 { DaySet(With({}, c_fixedFeiertage, c_movableFeiertage)), DaySet(werktag), DaySet(bankwerktag),
+                   DaySet(With(weekends, c_fixedTargetDays, c_movableTargetDays)) } };
     }
 
 private:
+    using Days = std::array<bool, 366>;
+
+    static constexpr void Insert(Days& days, int day) { days[static_cast<std::size_t>(day)] = true; }
+
     constexpr int GetLength() const { return 365 + m_leapDays; }
 
     constexpr int GetDay(DayAndMonth date) const
@@ -61,31 +65,32 @@ private:
         return GetDayOfYear(date.day, date.month, 2023) - 1 + (date.month > 2 ? m_leapDays : 0);
     }
 
-    template <std::size_t FixedCount, std::size_t MovableCount>
-    constexpr DaySet With(DaySet set, DayAndMonth const (&fixed)[FixedCount], int const (&movable)[MovableCount]) const
+    constexpr Days With(Days days, std::span<DayAndMonth const> fixed, std::span<int const> movable) const
     {
         for (DayAndMonth const date : fixed)
-            set.Insert(GetDay(date));
-        for (int const days : movable)
-            set.Insert(m_easter + days);
-        return set;
+            Insert(days, GetDay(date));
+        for (int const later : movable)
+            Insert(days, m_easter + later);
+        return days;
     }
 
     int m_leapDays;
     int m_easter; // from 1 January
 };
 
+// Each year is a computation of its own: compilers limit the steps that one may take.
+template <std::size_t Index>
+constexpr BusinessYear c_year = YearBuilder(Index % c_easterDays, Index >= c_easterDays).Build();
+
+template <std::size_t... Indices>
+constexpr std::array<BusinessYear, sizeof...(Indices)> Collect(std::index_sequence<Indices...>)
+{
+    return { c_year<Indices>... };
+}
+
 } // namespace
 
-constexpr std::array<BusinessYear, 2 * c_easterDays> c_businessYears = []
-{
-    std::array<BusinessYear, 2 * c_easterDays> years{};
-    for (int easter = 0; easter < c_easterDays; ++easter)
-    {
-        years[static_cast<std::size_t>(easter)] = YearBuilder(easter, false).Build();
-        years[static_cast<std::size_t>(easter + c_easterDays)] = YearBuilder(easter, true).Build();
-    }
-    return years;
-}();
+constexpr std::array<BusinessYear, 2 * c_easterDays> c_businessYears =
+    Collect(std::make_index_sequence<2 * c_easterDays>());
 
 } // namespace VekSysBase::Internal

@@ -6,7 +6,6 @@
 #include <Utilities/Internal/CivilCalendar.h>
 
 #include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 
@@ -22,35 +21,25 @@ enum class FreeDays : unsigned char
     Target,      // weekends and the six closing days of TARGET
 };
 
-/// A set of days of one year; day 0 is 1 January.
+/// A set of days of one year; day 0 is 1 January. It is kept as what it is asked for: how many there are before a day.
 class DaySet
 {
 public:
-    constexpr void Insert(int day) { m_words[static_cast<unsigned int>(day) / 64] |= std::uint64_t{ 1 } << (day % 64); }
-
-    /// Has to be called after the last Insert, for CountBefore.
-    constexpr void Finish()
+    /// Of the days that `days` is true for.
+    constexpr explicit DaySet(std::array<bool, 366> const& days)
     {
-        for (std::size_t i = 1; i < m_words.size(); ++i)
-            m_before[i] = static_cast<std::uint8_t>(m_before[i - 1] + std::popcount(m_words[i - 1]));
+        for (std::size_t i = 0; i < days.size(); ++i)
+            m_before[i + 1] = static_cast<std::uint8_t>(m_before[i] + (days[i] ? 1 : 0));
     }
+    constexpr DaySet() = default;
 
-    constexpr bool Contains(int day) const
-    {
-        return (m_words[static_cast<unsigned int>(day) / 64] >> (day % 64) & 1) != 0;
-    }
+    constexpr bool Contains(int day) const { return CountBefore(day) != CountBefore(day + 1); }
 
     /// How many of the days before `day`, which may be the day behind the year's last.
-    constexpr int CountBefore(int day) const
-    {
-        std::size_t const word = static_cast<unsigned int>(day) / 64;
-        std::uint64_t const below = (std::uint64_t{ 1 } << (day % 64)) - 1;
-        return m_before[word] + std::popcount(m_words[word] & below);
-    }
+    constexpr int CountBefore(int day) const { return m_before[static_cast<std::size_t>(day)]; }
 
 private:
-    std::array<std::uint64_t, 6> m_words{};
-    std::array<std::uint8_t, 6> m_before{}; // in the words before
+    std::array<std::uint8_t, 367> m_before{};
 };
 
 /// What the date of Easter and the leap day make of a year: they settle all weekdays, so there are only 70 years.
