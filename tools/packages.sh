@@ -1,6 +1,7 @@
 # Installs Debian packages that are missing, quietly; does nothing, and asks nothing of the network, when none is.
 # Usage: require_packages PACKAGE...
 #        require_documents PACKAGE FILE    FILE lies below /usr/share/doc, which some systems leave out of every package
+#        require_npm_package NAME VERSION FOLDER
 
 is_installed()
 {
@@ -40,4 +41,17 @@ require_documents()
     [ -e "$2" ] && return 0
     echo "Installing $1 with its documents"
     install_packages --reinstall -o "DPkg::Options::=--path-include=/usr/share/doc/$1/*" "$1"
+}
+
+# Unpacks an npm package, without what it depends on, to FOLDER/package.
+require_npm_package()
+{
+    local name=$1 version=$2 folder=$3
+    [ -e "$folder/package/package.json" ] && return 0
+    echo "Fetching $name"
+    command -v npm >/dev/null 2>&1 || require_packages npm || return 1
+    rm -rf "$folder" && mkdir -p "$folder/new" && (
+        cd "$folder" && npm pack --silent "$name@$version" >/dev/null && tar -xzf "$name-$version.tgz" -C new &&
+            mv new/package package && rm -r new
+    ) || { echo "Could not fetch $name" >&2; return 1; }
 }
