@@ -1,6 +1,7 @@
 #include <Utilities/DecimalStreams.h>
 
-#include <algorithm>
+#include <Utilities/Internal/AsciiText.h>
+
 #include <ostream>
 
 namespace Vek::Framework::Utilities
@@ -8,10 +9,7 @@ namespace Vek::Framework::Utilities
 
 std::ostream& operator<<(std::ostream& stream, Decimal const& value)
 {
-    std::wstring const wide = value.ToString(L'.', {});
-    std::string narrow(wide.size(), ' ');
-    std::transform(wide.begin(), wide.end(), narrow.begin(), [](wchar_t unit) { return static_cast<char>(unit); });
-    return stream << narrow;
+    return stream << Internal::ToNarrow(value.ToString(L'.', {}));
 }
 
 std::wostream& operator<<(std::wostream& stream, Decimal const& value)

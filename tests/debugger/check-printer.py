@@ -15,7 +15,8 @@ def check():
 
     gdb.execute("break StopHere", to_string=True)
     gdb.execute("run", to_string=True)
-    samples, numbers, shapes = (gdb.selected_frame().read_var(name) for name in ("samples", "numbers", "shapes"))
+    samples, numbers, shapes, dates = (
+        gdb.selected_frame().read_var(name) for name in ("samples", "numbers", "shapes", "dates"))
     for i in range(int(gdb.selected_frame().read_var("size"))):
         expect(samples[i]["value"].format_string(), samples[i]["text"].string())
     for i in range(1000):
@@ -24,10 +25,16 @@ def check():
     for name, text in (("point", "(1, -2)"), ("size", "3 x 4"), ("rectangle", "(1, -2)-(30, 40)"), ("none", ""),
                        ("range", "-1-3, " + values + ", ..."), ("rgb", "#8012ABFF"), ("bgra", "#8012ABFF")):
         expect(shapes[name].format_string(), text)
+    for name in ("points", "durations", "days"):
+        array = dates[name]
+        for i in range(array.type.range()[1] + 1):
+            expect(array[i]["value"].format_string(), array[i]["text"].string())
+    for i in range(4800):
+        expect(dates["months"][i].format_string(), "%d-%02d-01T00:00:00" % (1999 + i // 12, i % 12 + 1))
     for failure in failures:
         print(failure)
     print("%d values, %d wrong" % (checked, len(failures)))
-    return 0 if checked > 1000 and not failures else 1
+    return 0 if checked > 5800 and not failures else 1
 
 
 try:

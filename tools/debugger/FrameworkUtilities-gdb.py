@@ -1,5 +1,6 @@
 """Shows Decimal as its number in GDB: 12.50, -0.05, 1E+20, Infinity, NaN; points, sizes and rectangles as (1, 2), 3 x 4
-and (1, 2)-(4, 6), ranges as 1-3, 7 and colours as #AARRGGBB.
+and (1, 2)-(4, 6), ranges as 1-3, 7 and colours as #AARRGGBB; DateTime and VekDateEx as dates after ISO 8601, Duration as
+start and both parts, 2024-01-31T00:00:00 + 1 months + 0.5 s. What is no date is shown as its ticks or fields.
 
     (gdb) source <prefix>/share/FrameworkUtilities/FrameworkUtilities-gdb.py
 
@@ -13,6 +14,8 @@ import gdb.printing
 BIAS = 6176
 DECLETS = 11
 NAMESPACE = "^Vek::Framework::Utilities::"
+TICKS_PER_SECOND = 10**7
+TICKS_PER_DAY = 86400 * TICKS_PER_SECOND
 
 
 def unpack_declet(declet):
@@ -127,6 +130,66 @@ class ColorPrinter:
         return "#%02X%02X%02X%02X" % (alpha, red, green, blue)
 
 
+def split_days(days):
+    """Year, month and day of days from 1 January 1601, with years that begin in March."""
+    cycle, day = divmod(days + 584694, 146097)  # 400 years from 1 March of the year 0
+    century = min(day // 36524, 3)
+    day -= century * 36524
+    four, day = divmod(day, 1461)
+    year = min(day // 365, 3)
+    day -= year * 365
+    month = (5 * day + 2) // 153
+    later = 1 if month > 9 else 0  # January and February belong to the next year
+    return 400 * cycle + 100 * century + 4 * four + year + later, month + 3 - 12 * later, day - (153 * month + 2) // 5 + 1
+
+
+def to_iso_date(year, month, day):
+    return "%s%04d-%02d-%02d" % ("+" if year > 9999 else "", year, month, day)
+
+
+def to_iso_text(ticks):
+    if ticks >= 2**63:
+        return "%d ticks" % ticks
+    days, rest = divmod(ticks, TICKS_PER_DAY)
+    seconds, fraction = divmod(rest, TICKS_PER_SECOND)
+    time = "T%02d:%02d:%02d" % (seconds // 3600, seconds // 60 % 60, seconds % 60)
+    return to_iso_date(*split_days(days)) + time + ((".%07d" % fraction).rstrip("0") if fraction else "")
+
+
+class DateTimePrinter:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        return to_iso_text(int(self.value["m_ticks"]))
+
+
+class DurationPrinter:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        start = self.value["m_start"]
+        parts = ["%d months" % int(self.value["m_months"]), DecimalPrinter(self.value["m_exact"]).to_string() + " s"]
+        if bool(start["m_hasValue"]):
+            parts.insert(0, DateTimePrinter(start["m_value"]).to_string())
+        return " + ".join(parts)
+
+
+class VekDatePrinter:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        year, month, day = (int(self.value[field]) for field in ("m_year", "m_month", "m_day"))
+        if (year, month, day) == (0, 0, 0):
+            return "zero date"
+        length = 29 if year % 4 == 0 and (year % 100 != 0 or year % 400 == 0) else 28
+        lengths = {2: length, 4: 30, 6: 30, 9: 30, 11: 30}
+        is_date = 1 <= month <= 12 and 1 <= day <= lengths.get(month, 31)
+        return to_iso_date(year, month, day) if is_date else "invalid: day %d, month %d, year %d" % (day, month, year)
+
+
 def make_printers():
     printers = gdb.printing.RegexpCollectionPrettyPrinter("FrameworkUtilities")
     printers.add_printer("Decimal", NAMESPACE + "Decimal$", DecimalPrinter)
@@ -135,6 +198,9 @@ def make_printers():
     printers.add_printer("IntRectangle", NAMESPACE + "IntRectangle$", RectanglePrinter)
     printers.add_printer("IntRange", NAMESPACE + "IntRange$", RangePrinter)
     printers.add_printer("ColorBase", NAMESPACE + "ColorBase<.*>$", ColorPrinter)
+    printers.add_printer("DateTime", NAMESPACE + "DateTime$", DateTimePrinter)
+    printers.add_printer("Duration", NAMESPACE + "Duration$", DurationPrinter)
+    printers.add_printer("VekDateEx", "^VekSysBase::VekDateEx$", VekDatePrinter)
     return printers
 
 
