@@ -8,7 +8,10 @@
 #include <Utilities/Internal/TickCalendar.h>
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
+#include <cstring>
+#include <type_traits>
 
 namespace Vek::Framework::Utilities
 {
@@ -30,19 +33,37 @@ SplitTicks SplitChecked(std::uint64_t ticks)
     return Split(ticks);
 }
 
-bool IsDate(long long year, unsigned month, unsigned day) noexcept
+constexpr bool IsInMonth(std::uint32_t year, std::uint32_t month, std::uint32_t day) noexcept
 {
-    return year >= c_leastYear && year <= c_greatestYear && day >= 1 &&
-           static_cast<int>(day) <= GetDaysInMonth(month, year);
+    constexpr std::uint32_t always = 28;
+    return day - 1 < always || (day != 0 && day <= GetShortMonthLength(year, month));
 }
 
 /// Throws ArgumentException for fields that are out of range.
 std::uint64_t MakeTicks(int year, unsigned month, unsigned day, unsigned hour, unsigned minute, unsigned second)
 {
-    if (!IsDate(year, month, day) || hour > 23 || minute > 59 || second > 59)
+    auto const fullYear = static_cast<std::uint32_t>(year);
+    if (year < c_leastYear || year > c_greatestYear || month - 1 > 11 || !IsInMonth(fullYear, month, day) ||
+        hour > 23 || minute > 59 || second > 59)
         throw ArgumentException();
-    return GetTicksOfDate({ static_cast<std::uint32_t>(year), month, day }) +
-           c_ticksPerSecond * ((hour * 60 + minute) * 60 + second);
+    return c_ticksPerSecond * (GetSecondsOfDate({ fullYear, month, day }) + ((hour * 60 + minute) * 60 + second));
+}
+
+/// Byte by byte as the class has its fields. Field by field, the result would be stored in single bytes and loaded as a
+/// word right behind them, for which processors wait.
+DateTimeComponentInfo MakeComponents(ShortDate const& date, std::uint32_t dayOfWeek, TimeOfDay const& time) noexcept
+{
+    static_assert(std::endian::native == std::endian::little && sizeof(DateTimeComponentInfo) == 10 &&
+                  std::is_trivially_copyable_v<DateTimeComponentInfo>);
+    constexpr std::uint32_t hasDayOfWeek = 1;
+    std::uint64_t const high = dayOfWeek | date.day << 8U | time.hour << 16U | time.minute << 24U;
+    std::uint64_t const low = date.year | date.month << 16U | hasDayOfWeek << 24U | high << 32U;
+    auto const last = static_cast<std::uint16_t>(time.second);
+    DateTimeComponentInfo components;
+    auto* const bytes = reinterpret_cast<unsigned char*>(&components);
+    std::memcpy(bytes, &low, sizeof(low));
+    std::memcpy(bytes + sizeof(low), &last, sizeof(last));
+    return components;
 }
 
 /// A point without its year, in an order that follows the calendar; below a millisecond nothing counts.
@@ -63,7 +84,7 @@ int Compare(std::uint64_t a, std::uint64_t b) noexcept
 Whole ToWholeTicks(Decimal const& seconds) noexcept
 {
     DecimalArithmetic::Encoding const encoding = DecimalArithmetic::ToEncoding(seconds);
-    if (!DecimalArithmetic::IsFinite(encoding))
+    if (!DecimalArithmetic::IsFinite(encoding) || DecimalArithmetic::IsZero(encoding))
         return {};
     DecimalArithmetic::Finite ticks = DecimalArithmetic::Unpack(encoding);
     ticks.exponent += c_tickDigits;
@@ -87,9 +108,8 @@ bool TryStepMonths(SplitTicks from, long long months, std::uint64_t& ticks) noex
     auto const target = static_cast<std::uint32_t>(month);
     std::uint32_t const year = target / 12;
     std::uint32_t const monthOfYear = target % 12 + 1;
-    auto const length = static_cast<std::uint32_t>(GetDaysInMonth(monthOfYear, year));
-    ticks = GetTicksOfDate({ year, monthOfYear, std::min(date.day, length) }) + from.ticksOfDay -
-            from.ticksOfDay % c_ticksPerMillisecond;
+    std::uint32_t const day = std::min(date.day, GetShortMonthLength(year, monthOfYear));
+    ticks = GetTicksOfDate({ year, monthOfYear, day }) + from.ticksOfDay - from.ticksOfDay % c_ticksPerMillisecond;
     return true;
 }
 
@@ -144,16 +164,12 @@ DateTime DateTime::FromTimeT(long long const& seconds) noexcept
 
 DateTimeComponentInfo DateTime::GetComponents() const
 {
-    SplitTicks const split = SplitChecked(m_ticks);
-    ShortDate const date = GetDateOfTickDay(split.day);
-    auto const second = static_cast<std::uint32_t>(split.ticksOfDay / c_ticksPerSecond);
-    return { static_cast<short>(date.year),
-             static_cast<unsigned char>(date.month),
-             static_cast<unsigned char>(date.day),
-             static_cast<DayOfWeek>(GetDayOfWeekOfTickDay(split.day)),
-             static_cast<unsigned char>(second / 3600),
-             static_cast<unsigned char>(second / 60 % 60),
-             static_cast<unsigned char>(second % 60) };
+    if (m_ticks >= c_endOfTicks)
+        throw ArgumentException();
+    // Two divisions that do not wait for each other.
+    auto const day = static_cast<std::uint32_t>(m_ticks / c_ticksPerDay);
+    auto const second = static_cast<std::uint32_t>(m_ticks / c_ticksPerSecond - std::uint64_t{ day } * c_secondsPerDay);
+    return MakeComponents(GetDateOfTickDay(day), GetDayOfWeekOfTickDay(day), GetTimeOfDay(second));
 }
 
 int DateTime::CompareTo(DateTime const& other, ComparisonOptions options) const

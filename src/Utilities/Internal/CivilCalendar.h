@@ -53,13 +53,21 @@ struct ShortDate
     std::uint32_t day;
 };
 
+/// 28 to 31, of a month 1 to 12.
+constexpr std::uint32_t GetShortMonthLength(std::uint32_t year, std::uint32_t month)
+{
+    if (month == 2)
+        return (year % 25 == 0 ? year & 15U : year & 3U) == 0 ? 29 : 28; // as above
+    return 30 + ((month ^ (month >> 3U)) & 1U);
+}
+
 /// Days from 1 March of the year 0. Years begin in March, so that the leap day is a year's last; January and February
 /// are months 13 and 14 of the year before. Not before that day.
 constexpr std::uint32_t GetShortDay(std::uint32_t year, std::uint32_t month, std::uint32_t day)
 {
-    bool const isBeforeMarch = month <= 2;
-    std::uint32_t const marchYear = year - (isBeforeMarch ? 1 : 0);
-    std::uint32_t const marchMonth = month + (isBeforeMarch ? 12 : 0); // [3, 14]
+    std::uint32_t const isBeforeMarch = (month - 3) >> 31U; // without a branch: months come in no order
+    std::uint32_t const marchYear = year - isBeforeMarch;
+    std::uint32_t const marchMonth = month + 12 * isBeforeMarch; // [3, 14]
     std::uint32_t const century = marchYear / 100;
     return marchYear * 1461 / 4 - century + century / 4 + (marchMonth * 979 - 2919) / 32 + day - 1;
 }

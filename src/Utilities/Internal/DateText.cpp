@@ -153,8 +153,7 @@ private:
     bool Combine(Field const& year, Field const& month, Field const& day, ShortDate& date) noexcept
     {
         date = { year.value, month.value, day.value };
-        auto const length = static_cast<std::uint32_t>(GetDaysInMonth(month.value, year.value));
-        return RequireRange(day, { 1, length });
+        return RequireRange(day, { 1, GetShortMonthLength(year.value, month.value) });
     }
 
     bool ReadTime(bool isIso, std::uint64_t& ticksOfDay) noexcept
@@ -222,15 +221,15 @@ void DateTextWriter::PutDate(DateNotation notation, ShortDate const& date) noexc
 
 void DateTextWriter::PutTime(DateNotation notation, std::uint64_t ticksOfDay) noexcept
 {
-    auto const seconds = static_cast<std::uint32_t>(ticksOfDay / c_ticksPerSecond);
+    TimeOfDay const time = GetTimeOfDay(static_cast<std::uint32_t>(ticksOfDay / c_ticksPerSecond));
     Put(notation == DateNotation::Iso ? c_dateMark : L' ');
-    PutTwo(seconds / 3600);
+    PutTwo(time.hour);
     Put(L':');
-    PutTwo(seconds / 60 % 60);
+    PutTwo(time.minute);
     if (notation == DateNotation::German)
         return;
     Put(L':');
-    PutTwo(seconds % 60);
+    PutTwo(time.second);
     if (std::uint64_t const fraction = ticksOfDay % c_ticksPerSecond; fraction != 0)
         PutFraction(static_cast<std::uint32_t>(fraction));
 }

@@ -152,6 +152,12 @@ inline int CountPackedDigits(std::uint64_t declets) noexcept
     return static_cast<int>(3 * below) + c_lengthsOfDeclets[GetDeclet(declets, below)];
 }
 
+/// Of a finite number, whatever its exponent.
+constexpr bool IsZero(Encoding encoding) noexcept
+{
+    return (encoding.low | (encoding.high & c_upperDeclets)) == 0 && GetFirstDigit(encoding) == 0;
+}
+
 /// The digits of a finite number, 0 for zero, without decoding more than one declet.
 inline int CountDigits(Encoding encoding) noexcept
 {
