@@ -3,11 +3,10 @@
 #include "Console.h"
 #include "Document.h"
 #include "Summary.h"
+#include "Table.h"
 
 #include <Utilities/AmountText.h>
 
-#include <algorithm>
-#include <tuple>
 #include <vector>
 
 using namespace Vek::Framework::IXMLStreamer::Native;
@@ -30,33 +29,12 @@ std::wstring Grouped(long long count)
     return FormatAmount(count, AmountGrouping::FullStop, 0);
 }
 
-using Row = std::array<std::wstring, 5>;
+using Row = std::vector<std::wstring>;
 
 Row MakeRow(std::wstring const& title, Total const& total)
 {
     return { title, Grouped(total.lines), FormatAmount(total.net), FormatAmount(total.tax),
              FormatAmount(total.GetGross()) };
-}
-
-std::wstring RightAligned(std::wstring const& text, std::size_t width)
-{
-    return std::wstring(width - text.size(), L' ') + text;
-}
-
-// All columns but that of the titles stand to the right, each as wide as it needs.
-void PrintTable(std::vector<Row> const& rows)
-{
-    std::array<std::size_t, std::tuple_size_v<Row>> widths{};
-    for (Row const& row : rows)
-        for (std::size_t column = 0; column < row.size(); ++column)
-            widths[column] = std::max(widths[column], row[column].size());
-    for (Row const& row : rows)
-    {
-        std::wstring line = row[0] + std::wstring(widths[0] - row[0].size(), L' ');
-        for (std::size_t column = 1; column < row.size(); ++column)
-            line += L"  " + RightAligned(row[column], widths[column]);
-        PrintLine(line);
-    }
 }
 
 void WriteAmount(XMLWriter& writer, char const* name, Decimal const& amount)

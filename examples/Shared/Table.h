@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Example
+{
+
+std::wstring RightAligned(std::wstring const& text, std::size_t width);
+
+/// Prints rows of equally many cells, two blanks between the columns. All columns but the first stand to the right,
+/// each as wide as it needs.
+void PrintTable(std::vector<std::vector<std::wstring>> const& rows);
+
+} // namespace Example
