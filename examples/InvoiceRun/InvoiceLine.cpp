@@ -72,14 +72,14 @@ bool IsInvoiceHeader(std::wstring const& text)
 {
     Values values;
     Fault fault;
-    return TrySplitLine(text, ColumnCount, values, fault) &&
+    return TrySplitLine(text, ColumnCount, ColumnCount, values, fault) &&
            std::equal(values.begin(), values.end(), c_columnNames.begin(), c_columnNames.end());
 }
 
 bool TryReadInvoiceLine(std::wstring const& text, InvoiceLine& line, Fault& fault)
 {
     Values values;
-    if (!TrySplitLine(text, ColumnCount, values, fault))
+    if (!TrySplitLine(text, ColumnCount, ColumnCount, values, fault))
         return false;
     std::size_t const column = FindBadColumn(values, line, fault);
     if (column == ColumnCount)

@@ -35,7 +35,8 @@ std::size_t PositionInLine(std::wstring const& text, std::size_t column, std::si
 
 } // namespace
 
-bool TrySplitLine(std::wstring const& line, std::size_t count, std::vector<std::wstring>& values, Fault& fault)
+bool TrySplitLine(std::wstring const& line, std::size_t required, std::size_t count, std::vector<std::wstring>& values,
+                  Fault& fault)
 {
     values.clear();
     values.reserve(count);
@@ -50,10 +51,13 @@ bool TrySplitLine(std::wstring const& line, std::size_t count, std::vector<std::
         fault = { line.size(), "nothing follows the backslash" };
         return false;
     }
-    if (values.size() == count)
-        return true;
-    fault = { line.size(), std::to_string(values.size()) + " values instead of " + std::to_string(count) };
-    return false;
+    if (values.size() < required || values.size() > count)
+    {
+        fault = { line.size(), std::to_string(values.size()) + " values instead of " + std::to_string(count) };
+        return false;
+    }
+    values.resize(count);
+    return true;
 }
 
 Fault InLine(std::wstring const& line, std::size_t column, std::wstring const& columnName, std::wstring const& value,
