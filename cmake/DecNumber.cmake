@@ -19,8 +19,25 @@ else()
             PATTERNS "gdb/libdecnumber/*" "gdb/COPYING3")
     endif()
 endif()
-if(NOT EXISTS ${VEK_DECNUMBER_DIR}/dpd/decimal128.c)
-    message(FATAL_ERROR "${VEK_DECNUMBER_DIR} holds no dpd/decimal128.c: it is not decNumber's source")
+# The version and the content that the tests have seen; with another copy, run them.
+set(VEK_DECNUMBER_SHA256 2e3c3bf440d0e21b3e2cd7632d4b16fc4bce1c0537a27faee4b2cf6d1fd9900c)
+set(hashes)
+foreach(file IN ITEMS dconfig.h decCommonSymbols.h decContext.c decContext.h decContextSymbols.h decDPD.h
+        decDPDSymbols.h decNumber.c decNumber.h decNumberLocal.h decNumberSymbols.h dpd/decimal128.c dpd/decimal128.h
+        dpd/decimal128Local.h dpd/decimal128Symbols.h dpd/decimal64.c dpd/decimal64.h dpd/decimal64Symbols.h)
+    if(NOT EXISTS ${VEK_DECNUMBER_DIR}/${file})
+        message(FATAL_ERROR "${VEK_DECNUMBER_DIR} holds no ${file}: it is not decNumber's source")
+    endif()
+    file(SHA256 ${VEK_DECNUMBER_DIR}/${file} hash)
+    string(APPEND hashes ${hash})
+endforeach()
+string(SHA256 hash "${hashes}")
+file(STRINGS ${VEK_DECNUMBER_DIR}/decNumberLocal.h version REGEX "define DECVERSION")
+if(NOT version MATCHES "\"decNumber 3\\.61\"")
+    message(WARNING "Tested with decNumber 3.61; ${VEK_DECNUMBER_DIR} says ${version}")
+elseif(NOT hash STREQUAL VEK_DECNUMBER_SHA256)
+    message(WARNING "The decNumber 3.61 in ${VEK_DECNUMBER_DIR} is another copy than the tested one: run the tests. "
+        "Its sources give ${hash} instead of ${VEK_DECNUMBER_SHA256}")
 endif()
 
 # The licence goes where the library goes. In GDB's archive it lies beside the folder; another copy may have another one.

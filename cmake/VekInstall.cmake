@@ -1,6 +1,7 @@
 # What `cmake --install` puts down. Component Runtime: what a program needs where it runs, licences included;
 # Development: public headers, CMake package, pkg-config file, debugger views.
 include(CMakePackageConfigHelpers)
+include(VekLicences)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/FrameworkUtilities)
 install(TARGETS FrameworkUtilities EXPORT FrameworkUtilitiesTargets
@@ -12,7 +13,7 @@ install(TARGETS FrameworkUtilities EXPORT FrameworkUtilitiesTargets
 if(VEK_RUNTIME_DLLS)
     install(FILES ${VEK_RUNTIME_DLLS} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime)
 endif()
-install(FILES LICENSE THIRD-PARTY-NOTICES.md ${VEK_DECNUMBER_LICENCE}
+install(FILES LICENSE THIRD-PARTY-NOTICES.md ${VEK_LICENCES}
     DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Runtime)
 
 install(EXPORT FrameworkUtilitiesTargets NAMESPACE Vek:: DESTINATION ${package_folder} COMPONENT Development)

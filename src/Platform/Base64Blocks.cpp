@@ -1,5 +1,6 @@
 #include <Platform/Base64Blocks.h>
 
+#include <Platform/Attributes.h>
 #include <Platform/Processor.h>
 #include <Platform/WideBlock.h>
 

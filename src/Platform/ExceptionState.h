@@ -3,6 +3,14 @@
 #include <cstring>
 #include <cxxabi.h>
 
+#if defined(_LIBCPP_VERSION)
+namespace __cxxabiv1 // its header leaves this one out
+{
+struct __cxa_eh_globals;
+extern "C" __cxa_eh_globals* __cxa_get_globals() noexcept;
+} // namespace __cxxabiv1
+#endif
+
 namespace Vek::Platform
 {
 

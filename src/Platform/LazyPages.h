@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Platform/Attributes.h>
+
 #include <array>
 #include <atomic>
 #include <cstddef>
@@ -35,7 +37,7 @@ private:
     }
 
     // Cold, so that it is not inlined: a look-up must stay a few instructions.
-    [[gnu::cold]] Page const& MakePage(std::size_t index)
+    VEK_COLD Page const& MakePage(std::size_t index)
     {
         auto fresh = std::make_unique<Page>();
         m_fill(static_cast<char16_t>(index * c_pageSize), *fresh);

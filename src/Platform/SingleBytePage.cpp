@@ -57,8 +57,8 @@ unsigned SingleBytePage::FindMapped(__m128i bytes) const noexcept
 {
     if (!m_isLatin)
         return GetSignBits(bytes);
-    __m128i const row = _mm_and_si128(bytes, _mm_set1_epi8(static_cast<char>(0xE0)));
-    return GetSignBits(_mm_cmpeq_epi8(row, _mm_set1_epi8(static_cast<char>(0x80))));
+    __m128i const row = _mm_and_si128(bytes, _mm_set1_epi8('\xE0'));
+    return GetSignBits(_mm_cmpeq_epi8(row, _mm_set1_epi8('\x80')));
 }
 
 /// The units whose byte is not simply their value.

@@ -15,6 +15,14 @@ namespace Vek::Platform
 namespace
 {
 
+#if defined(_LIBCPP_VERSION)
+struct Unwinding // its runtime enters no handler when it unwinds a cancelled thread
+{
+};
+#else
+using Unwinding = abi::__forced_unwind;
+#endif
+
 class Guard;
 
 // The running guards of this thread form a chain, innermost first. "initial-exec", because the signal handler reads it:
@@ -89,7 +97,7 @@ bool RunGuarded(std::function<void()> const& action)
         return false;
     }
     guard.Enter();
-    return CatchAll<abi::__forced_unwind>(action);
+    return CatchAll<Unwinding>(action);
 }
 
 } // namespace Vek::Platform

@@ -1,6 +1,8 @@
 #include <Utilities/Internal/DecimalArithmetic/Arithmetic.h>
 #include <Utilities/Internal/DecimalArithmetic/PackedDigits.h>
 
+#include <Platform/Attributes.h>
+
 #include <algorithm>
 
 namespace Vek::Framework::Utilities::DecimalArithmetic
@@ -76,7 +78,7 @@ void RoundToPrecision(Term& sum) noexcept
     }
 }
 
-[[gnu::noinline]] Encoding AddLarge(Encoding a, Encoding b) noexcept
+VEK_NOINLINE Encoding AddLarge(Encoding a, Encoding b) noexcept
 {
     if (!IsFinite(a) || !IsFinite(b))
         return Reference::Add(a, b);

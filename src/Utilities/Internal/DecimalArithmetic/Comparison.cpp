@@ -1,5 +1,7 @@
 #include <Utilities/Internal/DecimalArithmetic/Arithmetic.h>
 
+#include <Platform/Attributes.h>
+
 #include <bit>
 
 namespace Vek::Framework::Utilities::DecimalArithmetic
@@ -72,7 +74,7 @@ int GetRank(Encoding a) noexcept
     return !IsInfinite(a) ? 0 : IsNegative(a) ? -1 : 1;
 }
 
-[[gnu::noinline]] int CompareLarge(Encoding a, Encoding b) noexcept
+VEK_NOINLINE int CompareLarge(Encoding a, Encoding b) noexcept
 {
     if (IsNaN(a) || IsNaN(b))
         return 0;

@@ -1,5 +1,7 @@
 #include <Utilities/Internal/DecimalArithmetic/Arithmetic.h>
 
+#include <Platform/Attributes.h>
+
 namespace Vek::Framework::Utilities::DecimalArithmetic
 {
 
@@ -99,7 +101,7 @@ Encoding DivideFinite(Finite const& a, Finite const& b) noexcept
     return lower.remainder.IsZero() ? FinishExact(quotient, idealExponent) : Finish(quotient);
 }
 
-[[gnu::noinline]] Encoding DivideLarge(Encoding a, Encoding b) noexcept
+VEK_NOINLINE Encoding DivideLarge(Encoding a, Encoding b) noexcept
 {
     if (!IsFinite(a) || !IsFinite(b))
         return Reference::Divide(a, b);

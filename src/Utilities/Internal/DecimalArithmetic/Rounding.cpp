@@ -1,6 +1,8 @@
 #include <Utilities/Internal/DecimalArithmetic/Arithmetic.h>
 #include <Utilities/Internal/DecimalArithmetic/PackedDigits.h>
 
+#include <Platform/Attributes.h>
+
 namespace Vek::Framework::Utilities::DecimalArithmetic
 {
 
@@ -56,7 +58,7 @@ bool MoveDigits(PackedDigits& digits, int count, Rounding rounding) noexcept
     return true;
 }
 
-[[gnu::noinline]] Encoding RescaleLarge(Encoding a, int exponent, Rounding rounding) noexcept
+VEK_NOINLINE Encoding RescaleLarge(Encoding a, int exponent, Rounding rounding) noexcept
 {
     if (!IsFinite(a) || !IsPlainExponent(exponent))
         return Reference::Rescale(a, exponent, rounding);
