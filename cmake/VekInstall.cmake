@@ -10,6 +10,10 @@ install(TARGETS FrameworkUtilities EXPORT FrameworkUtilitiesTargets
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development
     FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/FrameworkUtilities COMPONENT Development
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/FrameworkUtilities)
+if(MSVC AND VEK_LIBRARY_TYPE STREQUAL SHARED)
+    install(FILES $<TARGET_PDB_FILE:FrameworkUtilities>
+        DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Development OPTIONAL)
+endif()
 if(VEK_RUNTIME_DLLS)
     install(FILES ${VEK_RUNTIME_DLLS} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime)
 endif()
@@ -42,5 +46,23 @@ configure_file(cmake/FrameworkUtilities.pc.in FrameworkUtilities.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/FrameworkUtilities.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 
+
 install(FILES tools/debugger/FrameworkUtilities-gdb.py tools/debugger/FrameworkUtilities.natvis
     DESTINATION ${CMAKE_INSTALL_DATADIR}/FrameworkUtilities COMPONENT Development)
+# GDB loads a script by itself that lies beside the library under the library's name, from folders that its user trusts;
+# what lies in its own folder it always trusts, and that one stands for the prefix /usr.
+if(VEK_LIBRARY_TYPE STREQUAL SHARED AND NOT MSVC)
+    set(library_folder ${CMAKE_INSTALL_LIBDIR})
+    if(WIN32)
+        set(library_folder ${CMAKE_INSTALL_BINDIR})
+    endif()
+    install(CODE "
+        set(folder \"\${CMAKE_INSTALL_PREFIX}/${library_folder}\")
+        if(CMAKE_INSTALL_PREFIX STREQUAL \"/usr\")
+            set(folder \"/usr/share/gdb/auto-load\${folder}\")
+        endif()
+        file(INSTALL DESTINATION \"\${folder}\" TYPE FILE
+            RENAME \"$<TARGET_FILE_NAME:FrameworkUtilities>-gdb.py\"
+            FILES \"${PROJECT_SOURCE_DIR}/tools/debugger/FrameworkUtilities-gdb.py\")"
+        COMPONENT Development)
+endif()

@@ -25,6 +25,13 @@ endfunction()
 
 # A GoogleTest program. Wine may end a crashed program with exit code 0, so there its last words count.
 function(vek_add_gtest target)
+    set(header ${PROJECT_SOURCE_DIR}/tests/RowTrace.h)
+    get_target_property(precompiled ${target} PRECOMPILE_HEADERS)
+    if(precompiled)
+        target_precompile_headers(${target} PRIVATE ${header})
+    else()
+        target_compile_options(${target} PRIVATE $<IF:$<BOOL:${MSVC}>,/FI${header},-include${header}>)
+    endif()
     add_test(NAME ${target} COMMAND ${target})
     vek_set_up_tests(${target})
     if(VEK_TEST_ENVIRONMENT)

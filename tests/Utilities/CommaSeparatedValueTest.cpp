@@ -52,7 +52,10 @@ TEST(CommaSeparatedValue, LinesAndTheirValues)
         { L"0123456789abcdef\\;0123456789;z", { L"0123456789abcdef;0123456789", L"z" } },
     };
     for (auto const& row : rows)
-        EXPECT_EQ(row.values, Read(row.text, L';')) << row.text;
+    {
+        SCOPED_TRACE(row.text);
+        EXPECT_EQ(row.values, Read(row.text, L';'));
+    }
 }
 
 TEST(CommaSeparatedValue, RestAndALoneBackslash)

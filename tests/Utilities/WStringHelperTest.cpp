@@ -108,7 +108,10 @@ TEST(WStringHelper, TellsAndParsesNumbers)
     };
     // clang-format on
     for (auto const& row : values)
-        EXPECT_EQ(row.value, WStringHelper::ParseInt(row.text)) << row.text;
+    {
+        SCOPED_TRACE(row.text);
+        EXPECT_EQ(row.value, WStringHelper::ParseInt(row.text));
+    }
 }
 
 TEST(WStringHelper, Edits)

@@ -1,4 +1,5 @@
 # Shared by the scripts beside it. They are given HOST_FOLDER, WORK_FOLDER, CXX or TOOLCHAIN, and HOST_OPTIONS.
+cmake_minimum_required(VERSION 3.25)
 
 function(run)
     execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)

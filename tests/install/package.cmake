@@ -27,6 +27,7 @@ foreach(licence IN ITEMS LICENSE COPYING3 GCC-RUNTIME-LIBRARY-EXCEPTION ${LICENC
     endif()
 endforeach()
 list(FILTER Runtime EXCLUDE REGEX "^(bin/.*\\.dll|lib.*/libFrameworkUtilities\\.so\\.[0-9.]+|share/doc/.*)$")
-if(Runtime OR NOT "${Development}" MATCHES "include/FrameworkUtilities/VekApi.h")
+if(Runtime OR NOT "${Development}" MATCHES "include/FrameworkUtilities/VekApi.h"
+        OR NOT "${Development}" MATCHES "/(FrameworkUtilities.dll|libFrameworkUtilities.so.[0-9.]+)-gdb.py")
     message(FATAL_ERROR "What is for running holds ${Runtime}; for development: ${Development}")
 endif()

@@ -37,4 +37,11 @@ report "Only Platform, VekApi.h and the UI may ask for the platform:" "$(
     grep -rnE '^ *# *(if|ifdef|ifndef|elif).*(_WIN32|__linux__|_MSC_VER|__MINGW)' --include='*.h' --include='*.cpp' . |
         grep -vE '^\./(Platform/|VekApi\.h|Utilities/UI/)'
 )"
+
+# Microsoft's compiler has none of these, and clang in its place would not complain.
+report "Only Platform/Posix, VekApi.h and two guarded headers of Platform may use GNU extensions:" "$(
+    grep -rnE '\[\[gnu::|__attribute__|__builtin_|__int128|__asm__|__extension__|__typeof__|\bssize_t\b|\?:' \
+        --include='*.h' --include='*.cpp' . | grep -vE '^[^:]*:[0-9]*: *//' |
+        grep -vE '^\./(Platform/Posix/|Platform/(Attributes|WideInteger)\.h|VekApi\.h)'
+)"
 exit $failures

@@ -2,6 +2,13 @@
 and (1, 2)-(4, 6), ranges as 1-3, 7 and colours as #AARRGGBB; DateTime and VekDateEx as dates after ISO 8601, Duration as
 start and both parts, 2024-01-31T00:00:00 + 1 months + 0.5 s. What is no date is shown as its ticks or fields.
 
+Lies beside the installed library as libFrameworkUtilities.so.<version>-gdb.py, where GDB loads it by itself once
+~/.config/gdb/gdbinit trusts the folder:
+
+    add-auto-load-safe-path <prefix>/lib
+
+With the prefix /usr it lies in /usr/share/gdb/auto-load, which GDB trusts. For the static library:
+
     (gdb) source <prefix>/share/FrameworkUtilities/FrameworkUtilities-gdb.py
 
 The notation of decimals is to-scientific-string of the General Decimal Arithmetic (Cowlishaw): unlike Decimal::ToString

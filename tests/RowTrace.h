@@ -1,0 +1,42 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <exception>
+
+// Included before every test, so that it stands in for GoogleTest's SCOPED_TRACE.
+
+namespace Tests
+{
+
+/// Names a row of a table in every failure below it, and also when the row throws: GoogleTest has forgotten its traces
+/// by the time it reports an exception.
+class RowTrace
+{
+public:
+    template <class T>
+    RowTrace(char const* file, int line, T const& name) : m_trace(file, line, name),
+                                                          m_file(file),
+                                                          m_line(line)
+    {
+    }
+    RowTrace(RowTrace const&) = delete;
+    RowTrace& operator=(RowTrace const&) = delete;
+
+    ~RowTrace()
+    {
+        if (std::uncaught_exceptions() > m_exceptions)
+            ADD_FAILURE_AT(m_file, m_line) << "This row threw";
+    }
+
+private:
+    testing::ScopedTrace m_trace;
+    char const* m_file;
+    int m_line;
+    int m_exceptions = std::uncaught_exceptions();
+};
+
+} // namespace Tests
+
+#undef SCOPED_TRACE
+#define SCOPED_TRACE(name) ::Tests::RowTrace const GTEST_CONCAT_TOKEN_(rowTrace, __LINE__)(__FILE__, __LINE__, (name))
