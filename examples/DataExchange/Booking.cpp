@@ -1,5 +1,7 @@
 #include "Booking.h"
 
+#include "Quotes.h"
+
 #include <Exceptions/ArgumentException.h>
 #include <Utilities/Base64.h>
 #include <Utilities/CommaSeparatedValueReader.h>
@@ -29,6 +31,8 @@ std::string Quote(std::wstring const& text)
 
 std::vector<std::wstring> Split(std::wstring const& line)
 {
+    if (FindQuotedValue(line, c_separator) != std::wstring::npos)
+        throw BadBooking("a value is quoted; there are no quotes, a backslash protects a semicolon");
     std::vector<std::wstring> values;
     CommaSeparatedValueReader reader(line, c_separator);
     try

@@ -78,7 +78,7 @@ Statement ReadStatement(std::filesystem::path const& path)
 {
     Statement statement;
     LineReader lines(FromDocument(ReadFile(path)));
-    ReadHeader(lines, statement, NameOf(path));
+    ReadHeader(lines, statement, FullNameOf(path));
     while (lines.MoveNext())
         try
         {
@@ -86,7 +86,7 @@ Statement ReadStatement(std::filesystem::path const& path)
         }
         catch (CutOffAttachment const& error)
         {
-            throw DocumentError(NameOf(path) + ", line " + std::to_string(lines.GetNumber()) + ": " + error.what());
+            throw DocumentError(FullNameOf(path) + ", line " + std::to_string(lines.GetNumber()) + ": " + error.what());
         }
     return statement;
 }

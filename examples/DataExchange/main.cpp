@@ -12,6 +12,7 @@
 #include "Console.h"
 #include "Files.h"
 #include "Filter.h"
+#include "Program.h"
 #include "Statement.h"
 
 #include <Utilities/WStringHelper.h>
@@ -34,12 +35,21 @@ struct CommandLine
     std::filesystem::path values;
 };
 
-CommandLine ParseCommandLine(std::vector<std::filesystem::path> const& arguments)
+char const* const c_help = R"(DataExchange STATEMENT FILTER XML CSV
+    takes the bank statement STATEMENT apart (values separated by semicolons, in
+    Windows-1252, the first line: datum;betrag;waehrung;text;beleg;), and writes
+    the bookings that FILTER chooses to the files XML and CSV.
+    A filter compares datum, betrag, waehrung, text and beleg (the attachment's
+    size in bytes): betrag > 100 && waehrung == "EUR". An empty one chooses all.
+DataExchange --help
+)";
+
+CommandLine ParseCommandLine(std::vector<std::wstring> const& arguments)
 {
     if (arguments.size() != 4)
-        throw DocumentError("usage: DataExchange STATEMENT FILTER XML CSV");
-    std::u8string const filter = arguments[1].u8string(); // a path knows how the system encodes its command line
-    return { arguments[0], { filter.begin(), filter.end() }, arguments[2], arguments[3] };
+        throw DocumentError("usage: DataExchange STATEMENT FILTER XML CSV, or --help");
+    return { ToPath(arguments[0]), WStringHelper::GetUTF8FromUTF16(arguments[1]), ToPath(arguments[2]),
+             ToPath(arguments[3]) };
 }
 
 std::string Count(std::size_t number, char const* one, char const* many)
@@ -68,17 +78,17 @@ void PrintBookings(std::vector<Booking> const& bookings)
         sums[booking.currency] += booking.amount;
         std::wstring const attachment =
             booking.attachment.empty() ? L"" : L" (" + std::to_wstring(booking.attachment.size()) + L" bytes attached)";
-        PrintLine(L"  " + booking.date + AlignRight(booking.amount.ToString(L',', CodePoint(L'.')), 24) + L" " +
-                  booking.currency + L"  " + booking.text + attachment);
+        PrintLine(L"  " + booking.date + AlignRight(booking.amount.ToString(L',', L'.'), 24) + L" " + booking.currency +
+                  L"  " + booking.text + attachment);
     }
     for (auto const& [currency, sum] : sums)
-        PrintLine(L"  sum       " + AlignRight(sum.ToString(L',', CodePoint(L'.')), 24) + L" " + currency);
+        PrintLine(L"  sum       " + AlignRight(sum.ToString(L',', L'.'), 24) + L" " + currency);
 }
 
 void RequireSame(bool isSame, std::filesystem::path const& path)
 {
     if (!isSame)
-        throw DocumentError(NameOf(path) + " was read again with other bookings than those written");
+        throw DocumentError(FullNameOf(path) + " was read again with other bookings than those written");
 }
 
 void WriteDocumentAndCheck(std::filesystem::path const& path, std::vector<Booking> const& chosen)
@@ -112,9 +122,9 @@ void RequireDifferentFiles(CommandLine const& files)
 {
     for (std::filesystem::path const& target : { files.document, files.values })
         if (IsSameFile(target, files.statement))
-            throw DocumentError(NameOf(target) + " is the statement itself and is not replaced");
+            throw DocumentError(FullNameOf(target) + " is the statement itself and is not replaced");
     if (IsSameFile(files.document, files.values))
-        throw DocumentError(NameOf(files.values) + " cannot hold the XML and the separated values as well");
+        throw DocumentError(FullNameOf(files.values) + " cannot hold the XML and the separated values as well");
 }
 
 void Run(CommandLine const& files)
@@ -136,20 +146,12 @@ void Run(CommandLine const& files)
 
 } // namespace
 
-int main(int argc, char** argv)
+int main()
 {
-    try
-    {
-        PrepareConsole();
-        Run(ParseCommandLine({ argv + 1, argv + argc }));
-        std::cout.flush();
-        if (!std::cout)
-            throw DocumentError("standard output does not take what is written");
-        return 0;
-    }
-    catch (std::exception const& error)
-    {
-        std::cerr << "DataExchange: " << error.what() << '\n';
-        return 1;
-    }
+    return RunProgram("DataExchange", c_help,
+                      [](std::vector<std::wstring> const& arguments)
+                      {
+                          Run(ParseCommandLine(arguments));
+                          return 0;
+                      });
 }

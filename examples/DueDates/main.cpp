@@ -18,6 +18,7 @@
 #include "Files.h"
 #include "LineReader.h"
 #include "Output.h"
+#include "Program.h"
 
 #include <SysBase/VekDateText.h>
 #include <Utilities/AmountText.h>
@@ -46,8 +47,8 @@ Settings ReadSettings(std::wstring const& date, std::wstring const& percent)
 void RequireHeader(LineReader& lines)
 {
     if (!lines.MoveNext() || !IsPaymentHeader(FromDocument(std::string(lines.GetText()))))
-        throw DocumentError(NameOf(lines.GetPath()) + " holds no payments: the first line is not "
-                                                      "Nummer;Rechnungsdatum;Betrag;Bedingungen;Bezahlt am");
+        throw DocumentError(FullNameOf(lines.GetPath()) + " holds no payments: the first line is not "
+                                                          "Nummer;Rechnungsdatum;Betrag;Bedingungen;Bezahlt am");
 }
 
 void AddLine(LineReader const& lines, Result& result)
@@ -91,15 +92,25 @@ void Print(Result const& result)
     PrintMonth(date);
 }
 
+char const* const c_help = R"(DueDates FILE DATE PERCENT [RESULT_CSV RESULT_XML]
+    prints the due dates of the payment list FILE with the interest up to DATE
+    (31.12.2024) at PERCENT a year (9,2), the holidays of that year and the sheet
+    of that month; writes all of it to RESULT_CSV and RESULT_XML, too. FILE holds
+    values separated by semicolons, in Windows-1252, the first line:
+    Nummer;Rechnungsdatum;Betrag;Bedingungen;Bezahlt am
+    Bad lines are told and skipped; the exit code is 2 then.
+DueDates --help
+)";
+
 int Run(std::vector<std::wstring> const& arguments)
 {
     if (arguments.size() != 3 && arguments.size() != 5)
-        throw DocumentError("usage: DueDates FILE DATE PERCENT [RESULT_CSV RESULT_XML]");
-    Result const result = ComputeAll(arguments[0], ReadSettings(arguments[1], arguments[2]));
+        throw DocumentError("usage: DueDates FILE DATE PERCENT [RESULT_CSV RESULT_XML], or --help");
+    Result const result = ComputeAll(ToPath(arguments[0]), ReadSettings(arguments[1], arguments[2]));
     if (arguments.size() == 5)
     {
-        WriteSeparatedValues(arguments[3], result);
-        WriteXml(arguments[4], result);
+        WriteSeparatedValues(ToPath(arguments[3]), result);
+        WriteXml(ToPath(arguments[4]), result);
     }
     Print(result);
     return result.skipped > 0 ? 2 : 0;
@@ -107,23 +118,7 @@ int Run(std::vector<std::wstring> const& arguments)
 
 } // namespace
 
-int main(int argc, char** argv)
+int main()
 {
-    try
-    {
-        PrepareConsole();
-        std::vector<std::wstring> arguments;
-        for (int i = 1; i < argc; ++i)
-            arguments.push_back(FromDocument(argv[i]));
-        int const exitCode = Run(arguments);
-        std::cout.flush();
-        if (!std::cout)
-            throw DocumentError("standard output does not take what is written");
-        return exitCode;
-    }
-    catch (std::exception const& error)
-    {
-        std::cerr << "DueDates: " << error.what() << '\n';
-        return 1;
-    }
+    return RunProgram("DueDates", c_help, Run);
 }

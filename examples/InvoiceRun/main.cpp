@@ -12,9 +12,9 @@
 // The exit code is 0, 2 when lines were skipped, or 1 after an error that leaves no sums; it is told on the standard
 // error stream as well.
 
-#include "Console.h"
 #include "Files.h"
 #include "LineReader.h"
+#include "Program.h"
 #include "Summary.h"
 
 #include <iostream>
@@ -28,8 +28,8 @@ namespace
 void RequireHeader(LineReader& lines)
 {
     if (!lines.MoveNext() || !IsInvoiceHeader(FromDocument(std::string(lines.GetText()))))
-        throw DocumentError(NameOf(lines.GetPath()) + " holds no invoice lines: the first line is not "
-                                                      "Rechnung;Datum;Text;Menge;Preis;Rabatt;Steuersatz");
+        throw DocumentError(FullNameOf(lines.GetPath()) + " holds no invoice lines: the first line is not "
+                                                          "Rechnung;Datum;Text;Menge;Preis;Rabatt;Steuersatz");
 }
 
 void ReportSkippedLine(LineReader const& lines, Fault const& fault)
@@ -58,33 +58,29 @@ Summary AddUp(std::filesystem::path const& path)
     return summary;
 }
 
-int Run(std::vector<std::filesystem::path> const& arguments)
+char const* const c_help = R"(InvoiceRun FILE [SUMMARY_XML]
+    adds up the invoice lines of FILE by tax rate, each rounded to cents, prints
+    the sums and writes them to SUMMARY_XML, too. FILE holds values separated by
+    semicolons, in Windows-1252, the first line:
+    Rechnung;Datum;Text;Menge;Preis;Rabatt;Steuersatz
+    Bad lines are told and skipped; the exit code is 2 then.
+InvoiceRun --help
+)";
+
+int Run(std::vector<std::wstring> const& arguments)
 {
     if (arguments.empty() || arguments.size() > 2)
-        throw DocumentError("usage: InvoiceRun FILE [SUMMARY_XML]");
-    Summary const summary = AddUp(arguments[0]);
+        throw DocumentError("usage: InvoiceRun FILE [SUMMARY_XML], or --help");
+    Summary const summary = AddUp(ToPath(arguments[0]));
     if (arguments.size() == 2)
-        WriteSummary(arguments[1], summary);
+        WriteSummary(ToPath(arguments[1]), summary);
     PrintSummary(summary);
     return summary.GetSkipped() > 0 ? 2 : 0;
 }
 
 } // namespace
 
-int main(int argc, char** argv)
+int main()
 {
-    try
-    {
-        PrepareConsole();
-        int const exitCode = Run({ argv + 1, argv + argc });
-        std::cout.flush();
-        if (!std::cout)
-            throw DocumentError("standard output does not take what is written");
-        return exitCode;
-    }
-    catch (std::exception const& error)
-    {
-        std::cerr << "InvoiceRun: " << error.what() << '\n';
-        return 1;
-    }
+    return RunProgram("InvoiceRun", c_help, Run);
 }

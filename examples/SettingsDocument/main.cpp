@@ -11,6 +11,7 @@
 #include "AccountChart.h"
 #include "Console.h"
 #include "Document.h"
+#include "Program.h"
 #include "Settings.h"
 
 #include <Utilities/WStringHelper.h>
@@ -133,35 +134,37 @@ void ShowTour(TourFiles const& files)
     ShowBrokenDocument(files.data / "settings-broken.xml");
 }
 
-void Run(std::vector<std::filesystem::path> const& arguments)
+char const* const c_help = R"(SettingsDocument [data folder [file to write [account chart]]]
+    reads settings in two formats, changes them, writes them, reads them again;
+    reads an account chart that another program made; shows what a broken
+    document gives. Without arguments: start it in the root of the sources.
+SettingsDocument --read FILE
+    reads one settings file and prints what it holds.
+SettingsDocument --help
+)";
+
+int Run(std::vector<std::wstring> const& arguments)
 {
-    if (arguments.size() == 2 && arguments[0] == "--read")
-        return PrintSettings(ReadSettings(arguments[1]));
-    if (arguments.size() > 3 || (!arguments.empty() && arguments[0] == "--read"))
-        throw DocumentError("usage: SettingsDocument [data folder [file to write [account chart]]] | --read FILE");
+    bool const isReading = !arguments.empty() && arguments[0] == L"--read";
+    if (arguments.size() > 3 || (isReading && arguments.size() != 2))
+        throw DocumentError("usage: SettingsDocument [data folder [file to write [account chart]]] | --read FILE | "
+                            "--help");
+    if (isReading)
+    {
+        PrintSettings(ReadSettings(ToPath(arguments[1])));
+        return 0;
+    }
     TourFiles files;
     std::filesystem::path* const targets[] = { &files.data, &files.output, &files.accounts };
     for (std::size_t index = 0; index < arguments.size(); ++index)
-        *targets[index] = arguments[index];
+        *targets[index] = ToPath(arguments[index]);
     ShowTour(files);
+    return 0;
 }
 
 } // namespace
 
-int main(int argc, char** argv)
+int main()
 {
-    try
-    {
-        PrepareConsole();
-        Run({ argv + 1, argv + argc });
-        std::cout.flush();
-        if (!std::cout)
-            throw DocumentError("standard output does not take what is written");
-        return 0;
-    }
-    catch (std::exception const& error)
-    {
-        std::cerr << "SettingsDocument: " << error.what() << '\n';
-        return 1;
-    }
+    return RunProgram("SettingsDocument", c_help, Run);
 }

@@ -21,7 +21,7 @@ std::string Explain(std::filesystem::path const& path, XMLStreamer const& reader
 {
     StreamerError const& error = reader.GetError();
     auto const& place = reader.GetParserResult();
-    std::string text = NameOf(path) + " is not a valid document:";
+    std::string text = FullNameOf(path) + " is not a valid document:";
     text += "\n  code      " + std::to_string(error.GetErrorCode());
     text += "\n  text      " + UTF8FromDocument(error.GetDescription());
     if (!error.GetExpectedSymbol().empty())
@@ -38,7 +38,7 @@ void ReadDocument(XMLStreamer& reader, std::filesystem::path const& path)
     std::ifstream stream = OpenFile(path);
     bool const isComplete = reader.ProcessSource(stream);
     if (stream.bad())
-        throw DocumentError(NameOf(path) + " cannot be read");
+        throw DocumentError(FullNameOf(path) + " cannot be read");
     if (!isComplete)
         throw InvalidDocument(Explain(path, reader));
 }
@@ -53,7 +53,7 @@ void WriteDocument(std::filesystem::path const& path, std::function<void(XMLWrit
                     writer.StartWriting(stream, true);
                     write(writer);
                     if (!writer.FinishWriting())
-                        throw DocumentError(NameOf(path) + " is not written: " +
+                        throw DocumentError(FullNameOf(path) + " is not written: " +
                                             UTF8FromDocument(writer.GetLastError().GetDescription()));
                 });
 }

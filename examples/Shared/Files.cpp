@@ -13,19 +13,33 @@ namespace Example
 namespace
 {
 
+// The first free name beside the target. One that is taken belongs to another run or was left there by one that was
+// interrupted; it stays.
+std::filesystem::path FindFreeName(std::filesystem::path const& target)
+{
+    std::error_code error; // what cannot be asked for cannot be opened either
+    for (int number = 1; number < 1000; ++number)
+    {
+        std::filesystem::path path = target;
+        path += ".";
+        path += std::to_string(number);
+        path += ".tmp";
+        if (!std::filesystem::exists(std::filesystem::symlink_status(path, error)))
+            return path;
+    }
+    throw DocumentError(FullNameOf(target) + ".1.tmp to .999.tmp stand in the way");
+}
+
 // A new file beside the target that vanishes unless it takes the target's place. It takes the place of a file only: a
-// device or a folder stays, and so does a file of the temporary name that somebody else has left there.
+// device or a folder stays.
 class TemporaryFile
 {
 public:
-    explicit TemporaryFile(std::filesystem::path const& target) : m_target(target), m_path(target)
+    explicit TemporaryFile(std::filesystem::path const& target) : m_target(target), m_path(FindFreeName(target))
     {
-        m_path += ".tmp";
         std::error_code ignored; // what cannot be asked for cannot be opened either
         if (std::filesystem::exists(m_target, ignored) && !std::filesystem::is_regular_file(m_target, ignored))
-            throw DocumentError(NameOf(m_target) + " cannot be replaced");
-        if (std::filesystem::exists(m_path, ignored))
-            throw DocumentError(NameOf(m_path) + " stands in the way");
+            throw DocumentError(FullNameOf(m_target) + " cannot be replaced");
     }
     TemporaryFile(TemporaryFile const&) = delete;
     TemporaryFile& operator=(TemporaryFile const&) = delete;
@@ -43,7 +57,7 @@ public:
         std::error_code error;
         std::filesystem::rename(m_path, m_target, error);
         if (error)
-            throw DocumentError(NameOf(m_target) + " cannot be replaced");
+            throw DocumentError(FullNameOf(m_target) + " cannot be replaced");
     }
 
 private:
@@ -53,9 +67,23 @@ private:
 
 } // namespace
 
+std::filesystem::path ToPath(std::wstring const& text)
+{
+    std::string const utf8 = WStringHelper::GetUTF8FromUTF16(text);
+    return std::u8string(utf8.begin(), utf8.end());
+}
+
 std::string NameOf(std::filesystem::path const& path)
 {
     std::u8string const name = path.filename().u8string();
+    return { name.begin(), name.end() };
+}
+
+std::string FullNameOf(std::filesystem::path const& path)
+{
+    std::error_code error;
+    std::filesystem::path full = std::filesystem::absolute(path, error);
+    std::u8string const name = error ? path.u8string() : full.make_preferred().u8string();
     return { name.begin(), name.end() };
 }
 
@@ -77,10 +105,10 @@ std::ifstream OpenFile(std::filesystem::path const& path)
     // Linux opens a directory like a file and fails only when it is read, so ask first.
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
-        throw DocumentError(NameOf(path) + " does not exist or is not a file");
+        throw DocumentError(FullNameOf(path) + " does not exist or is not a file");
     std::ifstream stream(path, std::ios::binary); // text mode would end at the first byte 26 on Windows
     if (!stream)
-        throw DocumentError(NameOf(path) + " cannot be opened");
+        throw DocumentError(FullNameOf(path) + " cannot be opened");
     return stream;
 }
 
@@ -89,7 +117,7 @@ std::string ReadFile(std::filesystem::path const& path)
     std::ifstream stream = OpenFile(path);
     auto const bytes = StreamHelper::ReadAllBytes(stream);
     if (stream.bad())
-        throw DocumentError(NameOf(path) + " cannot be read");
+        throw DocumentError(FullNameOf(path) + " cannot be read");
     return { reinterpret_cast<char const*>(bytes->GetData()), bytes->GetSize() };
 }
 
@@ -98,11 +126,11 @@ void ReplaceFile(std::filesystem::path const& path, std::function<void(std::ostr
     TemporaryFile const temporary(path);
     std::ofstream stream(temporary.GetPath(), std::ios::binary);
     if (!stream)
-        throw DocumentError(NameOf(path) + " cannot be written: its folder does not take a new file");
+        throw DocumentError(FullNameOf(path) + " cannot be written: its folder does not take a new file");
     write(stream);
     stream.close(); // a full disk shows here at the latest
     if (!stream)
-        throw DocumentError(NameOf(path) + " cannot be written completely");
+        throw DocumentError(FullNameOf(path) + " cannot be written completely");
     temporary.ReplaceTarget();
 }
 

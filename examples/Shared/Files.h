@@ -17,8 +17,15 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// A path of the command line. Not the standard library's own way, which takes a wchar_t of Linux for a whole
+/// character.
+std::filesystem::path ToPath(std::wstring const& text);
+
 /// The file's name without its folder, in UTF-8.
 std::string NameOf(std::filesystem::path const& path);
+
+/// The whole path for messages, in UTF-8: it tells where a relative one was looked for.
+std::string FullNameOf(std::filesystem::path const& path);
 
 /// A file's bytes are Windows-1252, the program's text is UTF-16.
 std::wstring FromDocument(std::string const& bytes);

@@ -16,7 +16,7 @@ bool LineReader::MoveNext()
     m_stream.getline(m_buffer.data(), static_cast<std::streamsize>(m_buffer.size()));
     auto length = static_cast<std::size_t>(m_stream.gcount());
     if (m_stream.bad())
-        throw DocumentError(NameOf(m_path) + " cannot be read");
+        throw DocumentError(FullNameOf(m_path) + " cannot be read");
     // The buffer is full before the line ends; at the end of the file, nothing at all was there.
     m_isTooLong = m_stream.fail() && length > 0;
     if (m_stream.fail() && !m_isTooLong)

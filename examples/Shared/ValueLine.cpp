@@ -1,5 +1,7 @@
 #include "ValueLine.h"
 
+#include "Quotes.h"
+
 #include <Utilities/CommaSeparatedValueReader.h>
 #include <Utilities/WStringHelper.h>
 
@@ -40,6 +42,12 @@ bool TrySplitLine(std::wstring const& line, std::size_t required, std::size_t co
 {
     values.clear();
     values.reserve(count);
+    std::size_t const quote = FindQuotedValue(line, c_separator);
+    if (quote != std::wstring::npos)
+    {
+        fault = { quote, "a value is quoted; there are no quotes, a backslash protects a semicolon" };
+        return false;
+    }
     CommaSeparatedValueReader reader(line, c_separator);
     try
     {

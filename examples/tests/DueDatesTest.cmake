@@ -39,7 +39,7 @@ endfunction()
 
 set(list ${DATA_FOLDER}/payments.csv)
 file(WRITE ${WORK_FOLDER}/other.csv "Nummer;Betrag\n")
-expect_no_result("no argument" "usage: DueDates FILE DATE PERCENT .RESULT_CSV RESULT_XML.")
+expect_no_result("no argument" "usage: DueDates FILE DATE PERCENT .RESULT_CSV RESULT_XML., or --help")
 expect_no_result("one result only" "usage: .*" ${list} 1.1.2024 9 error.csv)
 expect_no_result("missing file" "missing.csv does not exist or is not a file" missing.csv 1.1.2024 9 error.csv error.xml)
 expect_no_result("other columns" "other.csv holds no payments: .*" other.csv 1.1.2024 9 error.csv error.xml)

@@ -64,3 +64,17 @@ foreach(row IN ITEMS
     expect_exchange_error("filter ${CMAKE_MATCH_1}" "the filter is wrong.*${pattern}" ${DATA_FOLDER}/statement.csv
         "${CMAKE_MATCH_1}")
 endforeach()
+
+# File names and a filter beyond every 8-bit code page. The locale is one that the machine has: without, Wine refuses such
+# names.
+set(ENV{LC_ALL} C.UTF-8)
+set(name "Umsatz € ž Ω")
+configure_file(${data}/statement.csv "${WORK_FOLDER}/${name}.csv" COPYONLY)
+run_program("${name}.csv" "text == \"Genau 100 €, nicht mehr\"" "${name}.xml" "${name} neu.csv")
+require_success()
+file(READ ${WORK_FOLDER}/output output)
+if(NOT output MATCHES "^${name}.csv: [0-9]+ bookings, .*\n1 booking is chosen by text == .Genau 100 €, nicht mehr.\n"
+        OR NOT EXISTS "${WORK_FOLDER}/${name}.xml" OR NOT EXISTS "${WORK_FOLDER}/${name} neu.csv")
+    message(SEND_ERROR "an argument did not arrive whole:\n${output}")
+endif()
+expect_error("missing file" "Ελλάδα €.csv does not exist" "Ελλάδα €.csv" "beleg >= 0" error.xml error.csv)

@@ -25,14 +25,14 @@ macro(require_success)
     endif()
 endmacro()
 
-# The program must end with exit code 1 and tell an error that begins with its own name and matches `pattern`.
+# The program must end with exit code 1 and tell an error that begins with its own name, perhaps a folder, and `pattern`.
 function(expect_error why pattern)
     run_program(${ARGN})
     if(NOT exit_code STREQUAL "1")
         message(SEND_ERROR "${why}: exit code ${exit_code} instead of 1\n${errors}")
     endif()
     string(REPLACE "\r" "" errors "${errors}")
-    if(NOT errors MATCHES "^${NAME}: ${pattern}")
+    if(NOT errors MATCHES "^${NAME}: ([A-Z]?:?[/\\\\][^\n]*[/\\\\])?${pattern}")
         message(SEND_ERROR "${why}: expected ${pattern}, told\n${errors}")
     endif()
     set(errors "${errors}" PARENT_SCOPE)

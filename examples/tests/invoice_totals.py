@@ -22,6 +22,8 @@ def amounts_of(line):
     values = re.findall(r"((?:[^;\\]+|\\.)*)(;|$)", line)
     if values and values[-1] == ("", ""):
         values.pop()  # nothing follows the last separator
+    if any(value.startswith('"') for value, _ in values):
+        return None
     if len(values) != 7 or "".join(map("".join, values)) != line:
         return None
     return AMOUNTS.fullmatch(";".join(re.sub(r"\\(.)", r"\1", value) for value, _ in values[3:]))

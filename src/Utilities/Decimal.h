@@ -70,6 +70,8 @@ public:
     Decimal operator/(Decimal const& other) const noexcept;
     /// 0 - value: a zero has no sign then.
     Decimal operator-() const noexcept;
+    /// 0 + value, its digits and exponent kept.
+    Decimal operator+() const noexcept { return -(-*this); }
     Decimal& operator+=(Decimal const& other) noexcept;
     Decimal& operator-=(Decimal const& other) noexcept;
     Decimal& operator*=(Decimal const& other) noexcept;
@@ -113,6 +115,7 @@ public:
     /// Steps: times the power of two that makes a whole number of 53 to 56 bits, rounded half up, then ldexp back. The
     /// powers of two are made when first needed; that may throw std::bad_alloc.
     double ToDouble() const;
+    explicit operator double() const { return ToDouble(); }
 
     /// Reads an optional sign, digits with at most one separator among them, and an optional exponent such as e-5; or
     /// "inf", "infinity", "nan" and "snan" in any case, the latter two with up to 33 more digits. Anything else, blanks
@@ -121,10 +124,11 @@ public:
     static Decimal FromString(std::wstring const& text, CodePoint const& separator);
 
     /// All digits, without an exponent. `grouping` stands between groups of three digits before the separator, zeros
-    /// of a positive exponent included. A zero has no sign.
-    std::wstring ToString(CodePoint const& separator, Nullable<CodePoint> const& grouping) const;
+    /// of a positive exponent included. A zero has no sign. ToString(L',', L'.') makes 1.234,50.
+    std::wstring ToString(CodePoint const& separator, Nullable<CodePoint> const& grouping = {}) const;
     /// The same, behind what `target` holds.
-    void AppendToString(std::wstring& target, CodePoint const& separator, Nullable<CodePoint> const& grouping) const;
+    void AppendToString(std::wstring& target, CodePoint const& separator,
+                        Nullable<CodePoint> const& grouping = {}) const;
 
 private:
     template <std::integral Integer>

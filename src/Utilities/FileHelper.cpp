@@ -107,14 +107,29 @@ bool FileHelper::EnsureDirectoryExists(std::wstring const& path)
     return Platform::EnsureDirectory(path);
 }
 
+bool FileHelper::EnsureDirectoryExists(std::string const& path)
+{
+    return EnsureDirectoryExists(Widen(path));
+}
+
 bool FileHelper::Copy(std::wstring const& source, std::wstring const& target, bool overwrite)
 {
     return Platform::CopyWholeFile(source, target, overwrite);
 }
 
+bool FileHelper::Copy(std::string const& source, std::string const& target, bool overwrite)
+{
+    return Copy(Widen(source), Widen(target), overwrite);
+}
+
 void FileHelper::Delete(std::wstring const& path)
 {
     Platform::RemoveFile(path);
+}
+
+void FileHelper::Delete(std::string const& path)
+{
+    Delete(Widen(path));
 }
 
 bool FileHelper::HasEqualContent(std::wstring const& first, std::wstring const& second)
@@ -124,6 +139,11 @@ bool FileHelper::HasEqualContent(std::wstring const& first, std::wstring const& 
     TextFile firstFile(first);
     TextFile secondFile(second);
     return HasEqualText(firstFile, secondFile);
+}
+
+bool FileHelper::HasEqualContent(std::string const& first, std::string const& second)
+{
+    return HasEqualContent(Widen(first), Widen(second));
 }
 
 std::shared_ptr<SizedArray<unsigned char>> FileHelper::ReadBinary(std::wstring const& path)
@@ -141,11 +161,24 @@ std::shared_ptr<SizedArray<unsigned char>> FileHelper::ReadBinary(std::wstring c
     return rest->empty() ? content : Join(*content, *rest);
 }
 
+std::shared_ptr<SizedArray<unsigned char>> FileHelper::ReadBinary(std::string const& path)
+{
+    return ReadBinary(Widen(path));
+}
+
 std::wstring FileHelper::GetFilename(std::wstring const& path)
 {
     std::size_t const separator = path.rfind(L'\\');
     bool const hasName = separator != std::wstring::npos && separator + 1 != path.size();
     return hasName ? path.substr(separator + 1) : path;
+}
+
+std::string FileHelper::GetFilename(std::string const& path)
+{
+    // By way of UTF-16, since the byte of a backslash may be half a character in some code pages.
+    std::wstring const wide = Widen(path);
+    std::wstring const name = GetFilename(wide);
+    return name.size() == wide.size() ? path : Platform::EncodeCodePage(name);
 }
 
 } // namespace Vek::Framework::Utilities

@@ -3,6 +3,8 @@
 #include <Exceptions/InvalidStateException.h>
 #include <Platform/Process.h>
 
+#include <utility>
+
 namespace Vek::Framework::Utilities
 {
 
@@ -12,6 +14,14 @@ std::wstring ProcessHelper::GetProcessStartDirectory()
     if (path.empty())
         throw InvalidStateException();
     return path.substr(0, path.rfind(Platform::GetPathSeparator()));
+}
+
+std::vector<std::wstring> ProcessHelper::GetArguments()
+{
+    std::optional<std::vector<std::wstring>> arguments = Platform::GetProgramArguments();
+    if (!arguments)
+        throw InvalidStateException();
+    return std::move(*arguments);
 }
 
 } // namespace Vek::Framework::Utilities

@@ -33,6 +33,10 @@ public:
     /// ("bad conversion"). A byte order mark is a character like any other.
     static std::wstring GetUTF16FromUTF8(std::string const& text);
 
+    /// The same without an exception: false leaves `result` as it was and sets `errorPosition` to the first byte of the
+    /// sequence that is malformed; all before it is well formed.
+    static bool TryGetUTF16FromUTF8(std::string const& text, std::wstring& result, unsigned long long& errorPosition);
+
     /// A lone surrogate or an element above 0xFFFF throws std::range_error ("bad conversion").
     static std::string GetUTF8FromUTF16(std::wstring const& text);
 
@@ -43,6 +47,21 @@ public:
     /// The reverse. What the code page cannot hold becomes '?' (Windows first tries its best fit); a surrogate pair
     /// gives two of them. Throws ArgumentException for more than 2,147,483,647 units.
     static std::string GetCurrentCodepageString(std::wstring const& text);
+
+    /// Windows-1252, the same on every system, whatever its code page; its five undefined bytes stand for the C1 code
+    /// of the same value. What it cannot hold becomes '?', without a best fit; a surrogate pair gives two of them.
+    static std::wstring GetUTF16FromWindows1252(std::string const& text);
+    static std::string GetWindows1252FromUTF16(std::wstring const& text);
+
+    /// For text of which nothing may be lost: false leaves `result` as it was and sets `errorPosition` to the first
+    /// unit that Windows-1252 does not have.
+    static bool TryGetWindows1252FromUTF16(std::wstring const& text, std::string& result,
+                                           unsigned long long& errorPosition);
+
+    /// Drops the byte order mark, U+FEFF, that the text begins with, in the second form written as UTF-8; only the
+    /// first one. True when there was one.
+    static bool RemoveByteOrderMark(std::wstring& text);
+    static bool RemoveByteOrderMark(std::string& text);
 
     /// For text known to be plain ASCII: no code page is asked. Two oddities are kept for the data written with them:
     /// the byte 0x7F becomes '~', and 0x80 to 0xFF become the units 0xFF80 to 0xFFFF.

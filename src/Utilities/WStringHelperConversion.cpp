@@ -1,13 +1,12 @@
-#include <Exceptions/ArgumentException.h>
-#include <Platform/CodePage.h>
 #include <Platform/WideBlock.h>
 #include <Utilities/Internal/Surrogates.h>
 #include <Utilities/WStringHelper.h>
 
 #include <bit>
 #include <cstdint>
-#include <limits>
 #include <stdexcept>
+#include <string_view>
+#include <utility>
 
 namespace Vek::Framework::Utilities
 {
@@ -28,30 +27,39 @@ void RequireThat(bool isWellFormed)
         ThrowBadConversion();
 }
 
+unsigned char const* GetBytes(std::string const& text) noexcept
+{
+    return reinterpret_cast<unsigned char const*>(text.data());
+}
+
 /// Decodes UTF-8 into room for as many units as there are bytes: no sequence gives more.
 class Utf8Decoder
 {
 public:
     Utf8Decoder(std::string const& text, wchar_t* target) noexcept
-        : m_at(reinterpret_cast<unsigned char const*>(text.data())),
+        : m_at(GetBytes(text)),
           m_end(m_at + text.size()),
           m_target(target)
     {
     }
 
-    /// Answers the end of the units written.
-    wchar_t* Run()
+    /// False at the first malformed sequence, where GetPosition stays.
+    bool Run()
     {
-        while (m_end - m_at >= c_blockSize)
+        bool isWellFormed = true;
+        while (isWellFormed && m_end - m_at >= c_blockSize)
         {
             WidenAscii();
-            while (m_at != m_end && *m_at >= 0x80)
-                DecodeCharacter();
+            while (isWellFormed && m_at != m_end && *m_at >= 0x80)
+                isWellFormed = DecodeCharacter();
         }
-        while (m_at != m_end)
-            DecodeCharacter();
-        return m_target;
+        while (isWellFormed && m_at != m_end)
+            isWellFormed = DecodeCharacter();
+        return isWellFormed;
     }
+
+    unsigned char const* GetPosition() const noexcept { return m_at; }
+    wchar_t* GetTarget() const noexcept { return m_target; }
 
 private:
     /// Takes the bytes before the next other character, or all but the last few: stores sixteen units without asking
@@ -72,52 +80,63 @@ private:
         m_target = target - surplus;
     }
 
-    void DecodeCharacter()
+    /// False leaves the position in front of the character.
+    bool DecodeCharacter() noexcept
     {
-        unsigned const lead = *m_at++;
+        unsigned const lead = *m_at;
         if (lead < 0x80)
-            Append(lead);
-        else if (lead < 0xE0)
-            DecodeTwo(lead);
-        else if (lead < 0xF0)
-            DecodeThree(lead);
-        else
-            DecodeFour(lead);
+            return Append(lead), ++m_at, true;
+        if (lead < 0xE0)
+            return DecodeTwo(lead);
+        return lead < 0xF0 ? DecodeThree(lead) : DecodeFour(lead);
     }
 
-    void DecodeTwo(unsigned lead)
+    bool DecodeTwo(unsigned lead) noexcept
     {
-        RequireThat(lead >= 0xC2 && m_at != m_end);
-        Append((lead & 0x1FU) << 6U | TakeTrail());
+        if (lead < 0xC2 || !HasTrails(1))
+            return false;
+        Append((lead & 0x1FU) << 6U | GetTrail(1));
+        m_at += 2;
+        return true;
     }
 
-    void DecodeThree(unsigned lead)
+    bool DecodeThree(unsigned lead) noexcept
     {
-        RequireThat(m_end - m_at >= 2);
-        unsigned const high = (lead & 0x0FU) << 12U | TakeTrail() << 6U;
-        unsigned const unit = high | TakeTrail();
-        RequireThat(unit >= 0x800 && !IsHighSurrogate(unit) && !IsLowSurrogate(unit));
+        if (!HasTrails(2))
+            return false;
+        unsigned const unit = (lead & 0x0FU) << 12U | GetTrail(1) << 6U | GetTrail(2);
+        if (unit < 0x800 || IsHighSurrogate(unit) || IsLowSurrogate(unit))
+            return false;
         Append(unit);
+        m_at += 3;
+        return true;
     }
 
-    void DecodeFour(unsigned lead)
+    bool DecodeFour(unsigned lead) noexcept
     {
-        RequireThat(lead < 0xF5 && m_end - m_at >= 3);
-        unsigned const plane = (lead & 0x07U) << 18U | TakeTrail() << 12U;
-        unsigned const row = plane | TakeTrail() << 6U;
-        unsigned const character = row | TakeTrail();
-        RequireThat(character >= 0x10000 && character <= 0x10FFFF);
+        if (lead >= 0xF5 || !HasTrails(3))
+            return false;
+        unsigned const high = (lead & 0x07U) << 18U | GetTrail(1) << 12U;
+        unsigned const character = high | GetTrail(2) << 6U | GetTrail(3);
+        if (character < 0x10000 || character > 0x10FFFF)
+            return false;
         Append(0xD7C0U + (character >> 10U)); // 0xD800 less the 0x10000 that the pair leaves out
         Append(0xDC00U | (character & 0x3FFU));
+        m_at += 4;
+        return true;
     }
 
-    unsigned TakeTrail()
+    bool HasTrails(std::ptrdiff_t count) const noexcept
     {
-        unsigned const byte = *m_at++;
-        RequireThat((byte & 0xC0U) == 0x80);
-        return byte & 0x3FU;
+        if (m_end - m_at <= count)
+            return false;
+        unsigned others = 0;
+        for (std::ptrdiff_t at = 1; at <= count; ++at)
+            others |= (m_at[at] & 0xC0U) ^ 0x80U;
+        return others == 0;
     }
 
+    unsigned GetTrail(std::ptrdiff_t at) const noexcept { return m_at[at] & 0x3FU; }
     void Append(unsigned unit) noexcept { *m_target++ = static_cast<wchar_t>(unit); }
 
     unsigned char const* m_at;
@@ -236,21 +255,29 @@ private:
     char m_buffer[c_bufferSize];
 };
 
-/// The system's conversions count in int.
-void RequireCountableSize(std::size_t size)
-{
-    if (size > static_cast<std::size_t>(std::numeric_limits<int>::max()))
-        throw ArgumentException();
-}
-
 } // namespace
 
 std::wstring WStringHelper::GetUTF16FromUTF8(std::string const& text)
 {
-    std::wstring result(text.size(), L'\0');
-    wchar_t const* const end = Utf8Decoder(text, result.data()).Run();
-    result.resize(static_cast<std::size_t>(end - result.data()));
+    std::wstring result;
+    unsigned long long errorPosition = 0;
+    RequireThat(TryGetUTF16FromUTF8(text, result, errorPosition));
     return result;
+}
+
+bool WStringHelper::TryGetUTF16FromUTF8(std::string const& text, std::wstring& result,
+                                        unsigned long long& errorPosition)
+{
+    std::wstring units(text.size(), L'\0');
+    Utf8Decoder decoder(text, units.data());
+    if (!decoder.Run())
+    {
+        errorPosition = static_cast<unsigned long long>(decoder.GetPosition() - GetBytes(text));
+        return false;
+    }
+    units.resize(static_cast<std::size_t>(decoder.GetTarget() - units.data()));
+    result = std::move(units);
+    return true;
 }
 
 std::string WStringHelper::GetUTF8FromUTF16(std::wstring const& text)
@@ -258,33 +285,19 @@ std::string WStringHelper::GetUTF8FromUTF16(std::wstring const& text)
     return Utf8Encoder(text).Run();
 }
 
-std::wstring WStringHelper::GetWStringFromCurrentCodepage(std::string const& text)
+bool WStringHelper::RemoveByteOrderMark(std::wstring& text)
 {
-    RequireCountableSize(text.size());
-    return text.empty() ? std::wstring() : Platform::DecodeCodePage(text);
+    bool const isThere = text.starts_with(static_cast<wchar_t>(0xFEFF));
+    text.erase(0, isThere ? 1 : 0);
+    return isThere;
 }
 
-std::string WStringHelper::GetCurrentCodepageString(std::wstring const& text)
+bool WStringHelper::RemoveByteOrderMark(std::string& text)
 {
-    RequireCountableSize(text.size());
-    return text.empty() ? std::string() : Platform::EncodeCodePage(text);
-}
-
-std::wstring WStringHelper::GetWStringFromAsciiOnly(std::string const& text)
-{
-    std::wstring result;
-    result.reserve(text.size());
-    for (char const byte : text)
-    {
-        int const widened = byte == '\x7F' ? '~' : static_cast<signed char>(byte);
-        result.push_back(static_cast<wchar_t>(widened & 0xFFFF));
-    }
-    return result;
-}
-
-bool WStringHelper::EqualsIgnoreCaseWithCurrentCodePage(std::wstring const& a, std::string const& b)
-{
-    return EqualsIgnoreCase(a, GetWStringFromCurrentCodepage(b));
+    constexpr std::string_view c_mark = "\xEF\xBB\xBF";
+    bool const isThere = text.starts_with(c_mark);
+    text.erase(0, isThere ? c_mark.size() : 0);
+    return isThere;
 }
 
 } // namespace Vek::Framework::Utilities

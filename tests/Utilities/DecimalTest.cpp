@@ -74,6 +74,10 @@ TEST(Decimal, OperatorsTakeEveryNumber)
     price *= 2U;
     price /= 4LL;
     EXPECT_EQ(Plain::Print(price), "6.50");
+    EXPECT_EQ(price.ToString(L',', L'.') + (price * 1000).ToString(L',', L'.') + price.ToString(L','),
+              L"6,506.500,006,50");
+    EXPECT_EQ(static_cast<double>(price), 6.5);
+    EXPECT_EQ(Plain::Print(+Decimal(3, 2)) + Plain::Print(+-Decimal(0)), "3E+20");
     EXPECT_TRUE(2 * price == 13 && 6.5 == price && 1 / Decimal(8) == 0.125 && 7 > price && 7 != price);
     price -= price;
     EXPECT_EQ(Plain::Print(price), "0.00");

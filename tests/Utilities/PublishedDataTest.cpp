@@ -208,6 +208,11 @@ TEST(PublishedData, CodePageIsTheCharmapAndC1WhereThatHasNothing)
     {
         EXPECT_EQ(units, WStringHelper::GetWStringFromCurrentCodepage(bytes));
         EXPECT_EQ(bytes, WStringHelper::GetCurrentCodepageString(units));
+        EXPECT_EQ(units, WStringHelper::GetUTF16FromWindows1252(bytes));
+        EXPECT_EQ(bytes, WStringHelper::GetWindows1252FromUTF16(units));
+        std::string checked;
+        unsigned long long errorPosition = 0;
+        EXPECT_TRUE(WStringHelper::TryGetWindows1252FromUTF16(units, checked, errorPosition) && checked == bytes);
         bytes.insert(bytes.begin(), 'x');
         units.insert(units.begin(), L'x');
     }

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <stdexcept>
 
 using Vek::Framework::Utilities::WStringHelper;
@@ -36,11 +35,17 @@ void AppendUtf16(std::wstring& text, unsigned character)
         text += MakeText({ character });
 }
 
-/// Well-formed is what the encoding of some character gives, nothing else.
-std::optional<std::wstring> DecodeNaively(std::string const& text)
+struct Decoded
 {
-    std::wstring result;
-    for (std::size_t at = 0; at < text.size();)
+    std::wstring text;
+    std::size_t size = 0; // of the bytes in front of the first malformed sequence
+};
+
+/// Well-formed is what the encoding of some character gives, nothing else.
+Decoded DecodeNaively(std::string const& text)
+{
+    Decoded result;
+    for (std::size_t& at = result.size; at < text.size();)
     {
         auto const lead = static_cast<unsigned char>(text[at]);
         std::size_t const size = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
@@ -50,31 +55,25 @@ std::optional<std::wstring> DecodeNaively(std::string const& text)
         std::string encoded;
         AppendUtf8(encoded, character);
         if (IsSurrogate(character) || character > c_lastCharacter || encoded != text.substr(at, size))
-            return std::nullopt;
-        AppendUtf16(result, character);
+            break;
+        AppendUtf16(result.text, character);
         at += size;
     }
     return result;
 }
 
-/// Nothing for a text that is refused.
-template <class Result, class Text>
-std::optional<Result> Convert(Result (*convert)(Text const&), Text const& text)
+bool IsEncodable(std::wstring const& text)
 {
     try
     {
-        return convert(text);
+        WStringHelper::GetUTF8FromUTF16(text);
+        return true;
     }
     catch (std::range_error const& error)
     {
         EXPECT_STREQ("bad conversion", error.what());
-        return std::nullopt;
+        return false;
     }
-}
-
-bool IsEncodable(std::wstring const& text)
-{
-    return Convert(WStringHelper::GetUTF8FromUTF16, text).has_value();
 }
 
 } // namespace
@@ -107,8 +106,14 @@ TEST(WStringHelperConversion, Utf8DecoderAgreesWithThePlainRuleOnEdgeBytes)
         for (std::size_t left = index, length = 0; length < 4; ++length, left /= count)
             text.push_back(static_cast<char>(edges[left % count]));
         text.append(index % 3 * 10, 'y'); // cut short by the end or by more text
-        ASSERT_TRUE(Convert(WStringHelper::GetUTF16FromUTF8, text) == DecodeNaively(text))
-            << ::testing::PrintToString(text);
+        Decoded const expected = DecodeNaively(text);
+        bool const isWellFormed = expected.size == text.size();
+        std::wstring const before = L"before";
+        std::wstring result = before;
+        unsigned long long errorPosition = text.size();
+        ASSERT_EQ(isWellFormed, WStringHelper::TryGetUTF16FromUTF8(text, result, errorPosition));
+        ASSERT_EQ(expected.size, errorPosition) << ::testing::PrintToString(text);
+        ASSERT_TRUE(result == (isWellFormed ? expected.text : before)) << ::testing::PrintToString(text);
     }
 }
 
@@ -127,6 +132,22 @@ TEST(WStringHelperConversion, Utf16RefusesExactlyTheLoneSurrogates)
         EXPECT_FALSE(IsEncodable(MakeText({ 0x10000 })));
         EXPECT_FALSE(IsEncodable(MakeText({ 0xFFFFFFC4 })));
     }
+}
+
+TEST(WStringHelperConversion, ByteOrderMarkGoesOnce)
+{
+    std::wstring units = MakeText({ 0xFEFF, 0xFEFF, 'a' });
+    std::string bytes = WStringHelper::GetUTF8FromUTF16(units);
+    EXPECT_TRUE(WStringHelper::RemoveByteOrderMark(units) && WStringHelper::RemoveByteOrderMark(bytes));
+    EXPECT_EQ(MakeText({ 0xFEFF, 'a' }), units);
+    EXPECT_EQ("\xEF\xBB\xBF"
+              "a",
+              bytes);
+    units = L"a";
+    bytes = "\xEF\xBB";
+    EXPECT_FALSE(WStringHelper::RemoveByteOrderMark(units) || WStringHelper::RemoveByteOrderMark(bytes));
+    EXPECT_EQ(L"a", units);
+    EXPECT_EQ("\xEF\xBB", bytes);
 }
 
 TEST(WStringHelperConversion, CodePageAnswersAQuestionMarkForWhatItCannotHold)
@@ -148,9 +169,16 @@ TEST(WStringHelperConversion, CodePageAnswersAQuestionMarkForWhatItCannotHold)
     for (Row const& row : rows)
     {
         SCOPED_TRACE(row.why);
+        std::wstring const text = std::wstring(16, L'?') + row.text + std::wstring(16, L'y');
+        std::string const expected = std::string(16, '?') + row.expected + std::string(16, 'y');
         EXPECT_EQ(row.expected, WStringHelper::GetCurrentCodepageString(row.text));
-        EXPECT_EQ(std::string(16, 'x') + row.expected + std::string(16, 'y'),
-                  WStringHelper::GetCurrentCodepageString(std::wstring(16, L'x') + row.text + std::wstring(16, L'y')));
+        EXPECT_EQ(expected, WStringHelper::GetCurrentCodepageString(text));
+        EXPECT_EQ(expected, WStringHelper::GetWindows1252FromUTF16(text));
+        std::string bytes = "before";
+        unsigned long long errorPosition = 0;
+        EXPECT_FALSE(WStringHelper::TryGetWindows1252FromUTF16(text, bytes, errorPosition));
+        EXPECT_EQ(expected.find('?', 16), errorPosition);
+        EXPECT_EQ("before", bytes);
     }
 }
 

@@ -2,6 +2,10 @@
 
 #include <Platform/Windows/WindowsHeader.h>
 
+#include <algorithm>
+#include <memory>
+#include <shellapi.h>
+
 namespace Vek::Platform
 {
 
@@ -18,6 +22,15 @@ std::wstring GetProgramPath()
 wchar_t GetPathSeparator() noexcept
 {
     return L'\\';
+}
+
+std::optional<std::vector<std::wstring>> GetProgramArguments()
+{
+    int count = 0;
+    std::unique_ptr<LPWSTR, decltype(&LocalFree)> const words(CommandLineToArgvW(GetCommandLineW(), &count), LocalFree);
+    if (words == nullptr)
+        return std::nullopt;
+    return std::vector<std::wstring>(words.get() + std::min(count, 1), words.get() + count);
 }
 
 } // namespace Vek::Platform
