@@ -50,62 +50,19 @@ std::string Trace(SimpleParser& parser)
 
 } // namespace
 
-TEST(SimpleParser, CutsSourcesAndCountsPlaces)
+// Kinds, texts and places are the naive scanner's business, below.
+TEST(SimpleParser, RawTextStaysAskedForAtTheEnd)
 {
-    // clang-format off
-    struct { char const* why; ScannerRules rules; char const* source; char const* trace; } const rows[] = {
-        { "the longest token wins", { { { 1, "=", true }, { 2, "==", true } } }, "a==b=",
-          "i<a>1:1 #2<==>1:2 i<b>1:4 #1<=>1:5 " },
-        { "a longest token that is not scannable hides shorter ones", { { { 1, "=", true }, { 2, "==", false } } },
-          "a==b", "i<a=>1:1 #1<=>1:3 i<b>1:4 " },
-        { "a tab is a letter and counts the tab size besides", {}, "x\ty z", "i<x\ty>1:1 i<z>1:8 " },
-        { "behind blanks it counts twice", {}, "x \ty", "i<x>1:1 i<\ty>1:9 " },
-        { "line feeds, returns and spaces are blanks", {}, "a\r\n b\rc", "i<a>1:1 i<b>2:2 i<c>2:1 " },
-        { "a blank that is a token and ends an identifier is counted for both", { { { 1, "\n", true } } }, "a\nb",
-          "i<a>1:1 #1<\n>3:1 i<b>3:2 " },
-        { "a comment counts as two lines", {}, "a // b\nc // d", "i<a>1:1 i<c>3:1 " },
-        { "and ends an identifier", {}, "ab//c\nd", "i<ab>1:1 i<d>3:1 " },
-        { "a marker with nothing behind it is none", {}, "a //", "i<a>1:1 i<//>1:3 " },
-        { "unless it is one character long", { {}, "#" }, "a #", "i<a>1:1 " },
-        { "a marker that begins with a line feed gets somewhere", { {}, "\n#" }, "a\n#b\nc\n", "i<a>1:1 i<c>5:1 " },
-        { "an empty marker is none", { {}, "" }, "a//b", "i<a//b>1:1 " },
-        { "a text is where it ends, and one line", {}, "\"a\nb\"\"\" c", "t<a\nb>1:5 t<>1:7 i<c>1:9 " },
-        { "a text ends an identifier, and may be cut off", {}, "a\"abc", "i<a>1:1 cut<abc>1:6 " },
-        { "a cut text may be empty", {}, "'\"", "i<'>1:1 cut<>1:3 " },
-        { "comments go before tokens, tokens before texts and blanks",
-          { { { 1, "//", true }, { 2, "\"", true }, { 3, " ", true } } }, "\" //\n", "#2<\">1:1 #3< >1:3 " },
-        { "numbers", {}, "1 -2.5 + 7. .5 1.2.3 1-2 1e3",
-          "n<1>1:1 n<-2.5>1:3 n<+>1:8 n<7.>1:10 i<.5>1:13 i<1.2.3>1:16 i<1-2>1:22 i<1e3>1:26 " },
-        { "bytes of the upper half", { { { 1, "\304", true } } }, "\344\304\377",
-          "i<\344>1:1 #1<\304>1:2 i<\377>1:3 " },
-    };
-    // clang-format on
-    for (auto const& row : rows)
-    {
-        SCOPED_TRACE(row.why);
-        SimpleParser parser = MakeParser(row.rules, row.source);
-        EXPECT_EQ(row.trace, Trace(parser));
-    }
-}
-
-TEST(SimpleParser, PassesRawTextThrough)
-{
-    SimpleParser parser = MakeParser({ { { 1, "%>", true }, { 2, "<", false } } }, "a b//\n\"<%>c %>%> 5");
+    SimpleParser parser = MakeParser({ { { 1, "%>", true } } }, "a // b");
     Symbol symbol;
     auto const next = [&] { return parser.GetNextSymbol(symbol), ToEntry(symbol); };
     parser.InvokePassThrough();
-    EXPECT_EQ("raw<a b//\n\"<>1:1 ", next());
+    EXPECT_EQ("raw<a // b>1:1 ", next());
     EXPECT_EQ("Pass-Through block", symbol.GetDescription());
-    EXPECT_EQ("#1<%>>2:4 ", next());
-    EXPECT_EQ("i<c>2:6 ", next());
-    parser.InvokePassThrough();
-    EXPECT_EQ("#1<%>>2:8 ", next()) << "no raw text before it";
-    EXPECT_EQ("#1<%>>2:10 ", next());
-    parser.InvokePassThrough();
-    EXPECT_EQ("raw< 5>2:13 ", next()) << "no number; a blank counts before the place is taken";
     EXPECT_EQ("none<>0:0 ", next());
-    parser.ProvideSource("x y");
-    EXPECT_EQ("raw<x y>1:1 ", next()) << "the end leaves raw text asked for";
+    parser.ProvideSource("x y%>z");
+    EXPECT_EQ("raw<x y>1:1 ", next());
+    EXPECT_EQ("#1<%>>1:5 i<z>1:7 ", Trace(parser));
 }
 
 TEST(SimpleParser, TheDecimalPointIsTheLocalesWhenTheParserIsMade)

@@ -78,7 +78,8 @@ TEST(StateParserRegistration, FindTokenFollowsTheTreeAsItIs)
     State& state = *parser.RegisterState(1, StateParser::KeepWhiteSpace);
     state.RegisterSkipToken("<", State::CaseSensitive);
     state.RegisterSkipToken("<B", State::CaseInsensitive);
-    state.RegisterSkipToken("c", State::CaseSensitive);
+    for (char const* const token : { "c", "fo", "for", "fort" })
+        state.RegisterSkipToken(token, State::CaseSensitive);
     struct
     {
         char const *text, *found, *why; // found is "" for none
@@ -87,6 +88,9 @@ TEST(StateParserRegistration, FindTokenFollowsTheTreeAsItIs)
         { "<Bx", "<", "what the exact walk finds ends the search, though a folded walk goes further" },
         { "C", "c", "a folded walk also stops at tokens with case" },
         { "x<", "", "only a prefix counts" },
+        { "forte", "fort", "the longest of three" },
+        { "FORt", "fort", "a folded walk goes as far" },
+        { "fo", "fo", "and the shortest" },
         { "", "", "no text" },
     };
     for (auto const& row : rows)

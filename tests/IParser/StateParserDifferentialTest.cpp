@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <string>
 
 using namespace StateParserTests;
 
@@ -77,4 +78,31 @@ TEST(StateParserDifferential, EverySplitOfASource)
         for (std::size_t pieceSize = 1; pieceSize <= source.size(); ++pieceSize)
             ASSERT_TRUE(Agree(expected, grammar, source, pieceSize));
     }
+}
+
+// What the naive parser leaves to the C library as well.
+TEST(StateParserDifferential, TellsNumbersFromTexts)
+{
+    // clang-format off
+    struct
+    {
+        std::string text;
+        char const* number; // null for a text
+    } const rows[] = {
+        { "12.5", "12.500000" }, { "12.5x", nullptr }, { " 12", "12.000000" }, { "12 ", nullptr },
+        { "-1e2", "-100.000000" }, { "1e", nullptr }, { "0x10", "16.000000" }, { "-", nullptr }, { "1e999", nullptr },
+        { "1e-999", nullptr }, { std::string("1\0", 2), nullptr },
+    };
+    // clang-format on
+    for (auto const& row : rows)
+        for (bool const isTextView : { false, true })
+        {
+            SCOPED_TRACE(Quoted(row.text));
+            GrammarParser parser(
+                { { .text = { Reaction::Continue }, .number = { Reaction::Continue }, .isTextView = isTextView } });
+            std::string const what =
+                row.number != nullptr ? std::string("number ") + row.number : "text " + Quoted(row.text);
+            EXPECT_EQ(what + " @0 in 7\n-> 0 in 7 at 1:" + std::to_string(row.text.size() + 1) + "\n",
+                      parser.RunString(row.text));
+        }
 }

@@ -80,31 +80,20 @@ TEST(StateParserStream, ATextMayBeLongerThanManyBlocks)
     for (int line = 0; text.size() < 3 * c_block + 77; ++line)
         text += std::string(static_cast<std::size_t>(line % 100), 'y') + "\n";
     int const lines = static_cast<int>(std::count(text.begin(), text.end(), '\n'));
-    struct
-    {
-        std::string trace;
-        int line, column;
-        State::TextConsumer consumer; // in place of the one that notes
-    } const rows[] = {
-        { "< @0;< @" + std::to_string(text.size() + 1) + ";", lines + 1, 2, {} },
-        { "< @0;", 1, 2, [](std::string const&, Params& params) { params.isSyntaxError = true; } },
-    };
-    for (auto const& row : rows)
+    std::string const size = std::to_string(text.size());
+    for (bool const isRefused : { false, true })
     {
         Places places;
-        places.state.RegisterTextConsumer(row.consumer);
-        places.state.RegisterInvalidToken("z", State::CaseSensitive);
-        std::istringstream stream("<" + text + "<zz");
-        EXPECT_FALSE(places.parser.ProcessSource(stream, true));
-        EXPECT_EQ(row.trace, places.trace);
-        EXPECT_EQ(row.line, places.parser.GetParserResult().line);
-        EXPECT_EQ(row.column, places.parser.GetParserResult().column);
+        if (isRefused)
+            places.state.RegisterTextConsumer([](auto&, Params& params) { params.isSyntaxError = true; });
+        std::istringstream stream("<" + text + "<");
+        EXPECT_EQ(!isRefused, places.parser.ProcessSource(stream, true));
+        std::string const rest =
+            size + " chars @1;< @" + std::to_string(text.size() + 1) + ";end @" + std::to_string(text.size() + 2) + ";";
+        EXPECT_EQ(isRefused ? "< @0;" : "< @0;" + rest, places.trace);
+        EXPECT_EQ(isRefused ? 1 : lines + 1, places.parser.GetParserResult().line);
+        EXPECT_EQ(2, places.parser.GetParserResult().column);
     }
-    Places places;
-    std::istringstream stream(text + "<");
-    EXPECT_TRUE(places.parser.ProcessSource(stream, true));
-    std::string const size = std::to_string(text.size());
-    EXPECT_EQ(size + " chars @0;< @" + size + ";end @" + std::to_string(text.size() + 1) + ";", places.trace);
 }
 
 TEST(StateParserStream, ByCharacterReadsNoFurtherThanRecognitionNeeds)
