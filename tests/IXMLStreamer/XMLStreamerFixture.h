@@ -3,6 +3,8 @@
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLStreamer.h>
 
+#include <gtest/gtest.h>
+
 #include <sstream>
 #include <streambuf>
 #include <string>
@@ -118,5 +120,25 @@ private:
                                   { return Note("@" + name + "=" + value); });
     }
 };
+
+struct OutcomeRow
+{
+    char const* why;
+    char const* document; // as Expand takes it
+    char const* outcome;  // as TracingReader describes it
+};
+
+template <std::size_t size>
+void ExpectOutcomes(OutcomeRow const (&rows)[size], XMLStreamer::Syntax syntax)
+{
+    for (OutcomeRow const& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        std::string const document = Expand(row.document);
+        TracingReader reader(syntax);
+        for (std::size_t split = 0; split == 0 || split < document.size(); ++split)
+            ASSERT_EQ(row.outcome, reader.ReadInTwo(document, split)) << "split at " << split;
+    }
+}
 
 } // namespace XMLStreamerTests
