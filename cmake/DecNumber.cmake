@@ -3,22 +3,25 @@
 # DecNumber_SOURCE_DIR already (a folder with decNumber.c and dpd/).
 set(DecNumber_SOURCE_DIR "" CACHE PATH "A libdecnumber source folder; empty: taken out of VEK_DECNUMBER_ARCHIVE")
 set(VEK_DECNUMBER_ARCHIVE /usr/src/gdb.tar.xz CACHE FILEPATH "GDB's source archive; by default where Debian puts it")
+set(VEK_DECNUMBER_FOLDER gdb/libdecnumber CACHE STRING "The folder in the archive that holds decNumber")
 
 enable_language(C)
 
 if(DecNumber_SOURCE_DIR)
     set(VEK_DECNUMBER_DIR ${DecNumber_SOURCE_DIR})
 else()
-    set(VEK_DECNUMBER_DIR ${PROJECT_BINARY_DIR}/decnumber/gdb/libdecnumber)
+    set(VEK_DECNUMBER_DIR ${PROJECT_BINARY_DIR}/decnumber/${VEK_DECNUMBER_FOLDER})
     if(NOT EXISTS ${VEK_DECNUMBER_DIR}/dpd/decimal128.c)
         if(NOT EXISTS ${VEK_DECNUMBER_ARCHIVE})
             message(FATAL_ERROR "decNumber's source is missing: install Debian's package gdb-source, or name a copy "
                 "with -DDecNumber_SOURCE_DIR=FOLDER or GDB's archive with -DVEK_DECNUMBER_ARCHIVE=FILE")
         endif()
+        cmake_path(GET VEK_DECNUMBER_FOLDER PARENT_PATH folder)
         file(ARCHIVE_EXTRACT INPUT ${VEK_DECNUMBER_ARCHIVE} DESTINATION ${PROJECT_BINARY_DIR}/decnumber
-            PATTERNS "gdb/libdecnumber/*" "gdb/COPYING3")
+            PATTERNS "${VEK_DECNUMBER_FOLDER}/*" "${folder}/COPYING3")
     endif()
 endif()
+
 # The version and the content that the tests have seen; with another copy, run them.
 set(VEK_DECNUMBER_SHA256 2e3c3bf440d0e21b3e2cd7632d4b16fc4bce1c0537a27faee4b2cf6d1fd9900c)
 set(hashes)
