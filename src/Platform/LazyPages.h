@@ -5,16 +5,16 @@
 #include <array>
 #include <atomic>
 #include <cstddef>
-#include <memory>
 
 namespace Vek::Platform
 {
 
-/// A table over all 65,536 units, filled in pages of 256 when a page is first asked for.
+/// A table over units, filled in pages of 256 when a page is first asked for.
 ///
-/// Made for objects of static storage: the constructor is constexpr, the pages are never freed.
-/// Any thread may ask; two that fill the same page at once get the same content, one copy is dropped.
-template <typename Value>
+/// Made for objects of static storage, the constructor is constexpr. The pages lie in an object of their own, which
+/// is all zero at first: so it takes no room in the library's file, and nothing has to be freed when that is unloaded.
+/// Any thread may ask; one that finds a page being filled by another works the value out for itself.
+template <typename Value, std::size_t PageCount = 256>
 class LazyPages
 {
 public:
@@ -24,31 +24,46 @@ public:
     /// Fills in the values of the units `first` to `first` + 255.
     using Fill = void (*)(char16_t first, Page& page);
 
-    constexpr explicit LazyPages(Fill fill) noexcept : m_fill(fill) {}
-
-    /// Throws std::bad_alloc when a new page finds no memory.
-    Value Get(char16_t unit) { return GetPage(unit >> 8U)[unit & 0xFFU]; }
-
-private:
-    Page const& GetPage(std::size_t index)
+    enum class State : unsigned char
     {
-        Page const* const page = m_pages[index].load(std::memory_order_acquire);
-        return page != nullptr ? *page : MakePage(index);
+        Empty = 0,
+        Filling,
+        Ready,
+    };
+
+    struct Storage
+    {
+        std::array<Page, PageCount> pages{};
+        std::array<std::atomic<State>, PageCount> states{};
+    };
+
+    constexpr LazyPages(Fill fill, Storage& storage) noexcept : m_fill(fill), m_storage(storage) {}
+
+    /// For units of the pages that there are. `fill` may throw; then the page is asked for again the next time.
+    Value Get(char16_t unit)
+    {
+        std::size_t const index = unit >> 8U;
+        bool const isReady = m_storage.states[index].load(std::memory_order_acquire) == State::Ready;
+        return isReady ? m_storage.pages[index][unit & 0xFFU] : MakePage(index, unit & 0xFFU);
     }
 
+private:
     // Cold, so that it is not inlined: a look-up must stay a few instructions.
-    VEK_COLD Page const& MakePage(std::size_t index)
+    VEK_COLD Value MakePage(std::size_t index, std::size_t offset)
     {
-        auto fresh = std::make_unique<Page>();
-        m_fill(static_cast<char16_t>(index * c_pageSize), *fresh);
-        Page const* present = nullptr;
-        if (m_pages[index].compare_exchange_strong(present, fresh.get(), std::memory_order_acq_rel))
-            return *fresh.release();
-        return *present;
+        Page page{};
+        m_fill(static_cast<char16_t>(index * c_pageSize), page);
+        State state = State::Empty;
+        if (m_storage.states[index].compare_exchange_strong(state, State::Filling, std::memory_order_relaxed))
+        {
+            m_storage.pages[index] = page;
+            m_storage.states[index].store(State::Ready, std::memory_order_release);
+        }
+        return page[offset];
     }
 
     Fill m_fill;
-    std::array<std::atomic<Page const*>, 256> m_pages{};
+    Storage& m_storage;
 };
 
 } // namespace Vek::Platform

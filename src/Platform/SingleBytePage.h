@@ -17,9 +17,9 @@ public:
     using Bytes = LazyPages<unsigned char>;
 
     /// `units` holds the unit of each byte, `encode` fills in the bytes of 256 units, '?' for those without one.
-    constexpr SingleBytePage(Units const& units, Bytes::Fill encode) noexcept
+    constexpr SingleBytePage(Units const& units, Bytes::Fill encode, Bytes::Storage& storage) noexcept
         : m_units(units),
-          m_bytes(encode),
+          m_bytes(encode, storage),
           m_isLatin(HasLatinUpperRows(units))
     {
     }

@@ -35,7 +35,8 @@ void EncodeUnits(char16_t first, SingleBytePage::Bytes::Page& bytes)
     }
 }
 
-constinit SingleBytePage s_page(c_units, EncodeUnits);
+constinit SingleBytePage::Bytes::Storage s_bytes;
+constinit SingleBytePage s_page(c_units, EncodeUnits, s_bytes);
 
 } // namespace
 

@@ -1,3 +1,4 @@
+#include <Platform/NeverDestroyed.h>
 #include <Utilities/Internal/TextReplacement.h>
 #include <Utilities/StringHelper.h>
 
@@ -148,14 +149,14 @@ bool StringHelper::IsInteger(std::string const& text, bool /*allowNegative*/) no
 
 std::string const& StringHelper::Empty()
 {
-    static std::string const& s_empty = *new std::string();
-    return s_empty;
+    static Platform::NeverDestroyed<std::string> const s_empty;
+    return s_empty.Get();
 }
 
 std::string const& StringHelper::NonBreakingSpace()
 {
-    static std::string const& s_space = *new std::string(1, '\xA0');
-    return s_space;
+    static Platform::NeverDestroyed<std::string> const s_space(1U, '\xA0');
+    return s_space.Get();
 }
 
 } // namespace Vek::Framework::Utilities

@@ -12,7 +12,9 @@ namespace Vek::Framework::Utilities
 namespace
 {
 
-constinit Platform::LazyPages<char16_t> s_folds(Platform::MapToGermanLowerCase);
+using CaseTable = Platform::LazyPages<char16_t>;
+constinit CaseTable::Storage s_foldPages;
+constinit CaseTable s_folds(Platform::MapToGermanLowerCase, s_foldPages);
 
 constexpr std::size_t c_blockSize = 8;
 

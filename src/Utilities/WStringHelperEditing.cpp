@@ -1,4 +1,5 @@
 #include <Exceptions/NullPointerException.h>
+#include <Platform/NeverDestroyed.h>
 #include <Platform/WideBlock.h>
 #include <Utilities/Internal/TextReplacement.h>
 #include <Utilities/WStringHelper.h>
@@ -162,20 +163,20 @@ void WStringHelper::AppendHex(unsigned char const* data, unsigned int size, std:
 
 std::wstring const& WStringHelper::Empty()
 {
-    static std::wstring const& s_empty = *new std::wstring();
-    return s_empty;
+    static Platform::NeverDestroyed<std::wstring> const s_empty;
+    return s_empty.Get();
 }
 
 std::wstring const& WStringHelper::NonBreakingSpace()
 {
-    static std::wstring const& s_space = *new std::wstring(1, static_cast<wchar_t>(0xA0));
-    return s_space;
+    static Platform::NeverDestroyed<std::wstring> const s_space(1U, static_cast<wchar_t>(0xA0));
+    return s_space.Get();
 }
 
 std::vector<std::wstring> const& WStringHelper::EmptyStringList()
 {
-    static std::vector<std::wstring> const& s_empty = *new std::vector<std::wstring>();
-    return s_empty;
+    static Platform::NeverDestroyed<std::vector<std::wstring>> const s_empty;
+    return s_empty.Get();
 }
 
 } // namespace Vek::Framework::Utilities

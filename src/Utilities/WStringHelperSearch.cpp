@@ -12,12 +12,15 @@ namespace Vek::Framework::Utilities
 namespace
 {
 
-constinit Platform::LazyPages<char16_t> s_lowerCase(Platform::MapToUserLowerCase);
-constinit Platform::LazyPages<char16_t> s_upperCase(Platform::MapToUserUpperCase);
+using CaseTable = Platform::LazyPages<char16_t>;
+constinit CaseTable::Storage s_lowerCasePages;
+constinit CaseTable s_lowerCase(Platform::MapToUserLowerCase, s_lowerCasePages);
+constinit CaseTable::Storage s_upperCasePages;
+constinit CaseTable s_upperCase(Platform::MapToUserUpperCase, s_upperCasePages);
 
 constexpr wchar_t c_lastDirect = 126; // ASCII letters are mapped without asking anybody
 
-wchar_t Map(Platform::LazyPages<char16_t>& table, wchar_t unit)
+wchar_t Map(CaseTable& table, wchar_t unit)
 {
     return Platform::ToUnsigned(unit) > 0xFFFFU ? unit : static_cast<wchar_t>(table.Get(static_cast<char16_t>(unit)));
 }

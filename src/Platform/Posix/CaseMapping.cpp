@@ -11,19 +11,34 @@ namespace Vek::Platform
 namespace
 {
 
-/// Null where the system lacks the locale. Never freed: mappings may be asked for as long as the process runs.
-locale_t GetLocale()
+/// The system's case rules, for as long as a page takes to be filled. What stayed would be left behind when the library
+/// is unloaded.
+class CaseRules
 {
-    static locale_t const s_locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-    return s_locale;
-}
+public:
+    CaseRules() : m_locale(newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)) {}
+    CaseRules(CaseRules const&) = delete;
+    CaseRules& operator=(CaseRules const&) = delete;
+    ~CaseRules()
+    {
+        if (m_locale != nullptr)
+            freelocale(m_locale);
+    }
+
+    /// Null where the system lacks the locale.
+    locale_t Get() const { return m_locale; }
+
+private:
+    locale_t m_locale;
+};
 
 using MapCharacter = std::wint_t (*)(std::wint_t, locale_t) noexcept;
 
 // Windows maps only pairs that lead back: U+0130 to 'i' and the Kelvin sign to 'k' are none.
 void MapPage(char16_t first, CasePage& page, MapCharacter map, MapCharacter mapBack, char16_t (*mapLatin)(char16_t))
 {
-    locale_t const locale = GetLocale();
+    CaseRules const rules;
+    locale_t const locale = rules.Get();
     for (unsigned offset = 0; offset < page.size(); ++offset)
     {
         char16_t const unit = static_cast<char16_t>(first + offset);
@@ -34,17 +49,31 @@ void MapPage(char16_t first, CasePage& page, MapCharacter map, MapCharacter mapB
 }
 
 /// The Windows search takes more letters for the same than the case mapping does: it compares by language.
+char16_t FoldForSearch(char16_t unit, locale_t locale)
+{
+    if (unit == 0x0130) // the dotted I is no 'i' in German
+        return unit;
+    if (unit == 0x03C2) // final sigma
+        return 0x03C3;
+    std::wint_t const folded = locale == nullptr ? ToLatinLowerCase(unit) : towlower_l(unit, locale);
+    return folded <= 0xFFFFU ? static_cast<char16_t>(folded) : unit;
+}
+
+void FillSearchFolds(char16_t first, CasePage& page)
+{
+    CaseRules const rules;
+    for (unsigned offset = 0; offset < page.size(); ++offset)
+        page[offset] = FoldForSearch(static_cast<char16_t>(first + offset), rules.Get());
+}
+
+using FoldTable = LazyPages<char16_t>;
+constinit FoldTable::Storage s_searchFoldPages;
+constinit FoldTable s_searchFolds(FillSearchFolds, s_searchFoldPages);
+
 wchar_t FoldForSearch(wchar_t unit)
 {
-    locale_t const locale = GetLocale();
     auto const value = ToUnsigned(unit);
-    if (value > 0xFFFFU || value == 0x0130) // the dotted I is no 'i' in German
-        return unit;
-    if (value == 0x03C2) // final sigma
-        return static_cast<wchar_t>(0x03C3);
-    if (locale == nullptr)
-        return static_cast<wchar_t>(ToLatinLowerCase(static_cast<char16_t>(value)));
-    return static_cast<wchar_t>(towlower_l(value, locale));
+    return value > 0xFFFFU ? unit : static_cast<wchar_t>(s_searchFolds.Get(static_cast<char16_t>(value)));
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 
 #include <Platform/Windows/WindowsHeader.h>
 
+#include <optional>
+
 namespace Vek::Platform
 {
 
@@ -41,23 +43,25 @@ void EncodeUnits(char16_t first, SingleBytePage::Bytes::Page& bytes)
         encoded.copy(reinterpret_cast<char*>(bytes.data()), bytes.size());
 }
 
-/// Null when the system's page has characters of more than one byte.
-SingleBytePage* MakePage()
+constinit SingleBytePage::Bytes::Storage s_bytes;
+
+/// Nothing when the system's page has characters of more than one byte.
+std::optional<SingleBytePage> MakePage()
 {
     CPINFO info{};
     if (GetCPInfo(CP_ACP, &info) == 0 || info.MaxCharSize != 1)
-        return nullptr;
+        return std::nullopt;
     SingleBytePage::Units units{};
     for (unsigned byte = 0; byte < units.size(); ++byte)
         units[byte] = static_cast<char16_t>(DecodeBySystem(std::string(1, static_cast<char>(byte))).at(0));
-    return new SingleBytePage(units, EncodeUnits);
+    return SingleBytePage(units, EncodeUnits, s_bytes);
 }
 
-/// Never freed: conversions may run as long as the process.
+/// Null when there is none. Nothing of it has to be destroyed: conversions may run as long as the process.
 SingleBytePage* GetPage()
 {
-    static SingleBytePage* const s_page = MakePage();
-    return s_page;
+    static std::optional<SingleBytePage> s_page = MakePage();
+    return s_page ? &*s_page : nullptr;
 }
 
 } // namespace

@@ -18,10 +18,11 @@ constexpr Encoding c_infinity{ 0, std::uint64_t{ 0x78 } << 56 };
 constexpr int c_fractionBits = 52;
 constexpr int c_significantDigits = 14; // behind the first digit
 
-// Exponents from -0x8000 up as the index; the numbers asked for are some -20400 to 20600.
-constexpr int c_powersOffset = 0x8000;
+// The exponent less the lowest one as the index; the numbers asked for are some -20400 to 20600.
+constexpr int c_powersOffset = 0x5200;
+using PowerTable = Platform::LazyPages<Finite, 2 * c_powersOffset / 256>;
 
-void FillPowersOfTwo(char16_t first, Platform::LazyPages<Finite>::Page& page)
+void FillPowersOfTwo(char16_t first, PowerTable::Page& page)
 {
     Encoding const two = Pack({ false, 0, { 0, 2 } });
     int exponent = static_cast<int>(first) - c_powersOffset;
@@ -36,7 +37,8 @@ void FillPowersOfTwo(char16_t first, Platform::LazyPages<Finite>::Page& page)
     }
 }
 
-constinit Platform::LazyPages<Finite> s_powersOfTwo(FillPowersOfTwo);
+constinit PowerTable::Storage s_powersOfTwoPages;
+constinit PowerTable s_powersOfTwo(FillPowersOfTwo, s_powersOfTwoPages);
 
 /// To 34 digits, as decNumber raises it.
 Finite GetPowerOfTwo(int exponent)
