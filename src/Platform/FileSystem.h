@@ -24,6 +24,10 @@ bool EnsureDirectory(std::wstring const& path);
 /// False when `target` is there and may not be overwritten, and for every failure.
 bool CopyWholeFile(std::wstring const& source, std::wstring const& target, bool overwrite);
 
+/// Gives a file another name in its folder, in the place of a file that has it; never a directory. False for every
+/// failure; then nothing has changed.
+bool RenameFile(std::wstring const& source, std::wstring const& target);
+
 /// Deletes a file if the system allows it; never a directory.
 void RemoveFile(std::wstring const& path);
 

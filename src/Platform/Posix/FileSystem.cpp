@@ -3,6 +3,7 @@
 #include <Platform/Posix/NativePath.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -39,6 +40,14 @@ PathState QueryPath(std::wstring const& path)
 bool EnsureDirectory(std::wstring const& path)
 {
     return mkdir(GetNativePath(path).c_str(), c_everybody) == 0 || errno == EEXIST;
+}
+
+bool RenameFile(std::wstring const& source, std::wstring const& target)
+{
+    std::string const native = GetNativePath(source).native();
+    struct stat status = {};
+    bool const isFile = lstat(native.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+    return isFile && rename(native.c_str(), GetNativePath(target).c_str()) == 0;
 }
 
 void RemoveFile(std::wstring const& path)

@@ -26,6 +26,14 @@ bool CopyWholeFile(std::wstring const& source, std::wstring const& target, bool 
     return CopyFileW(GetNativePath(source).c_str(), GetNativePath(target).c_str(), overwrite ? FALSE : TRUE) != 0;
 }
 
+bool RenameFile(std::wstring const& source, std::wstring const& target)
+{
+    std::wstring const native = GetNativePath(source);
+    DWORD const attributes = GetFileAttributesW(native.c_str());
+    bool const isFile = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    return isFile && MoveFileExW(native.c_str(), GetNativePath(target).c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
+}
+
 void RemoveFile(std::wstring const& path)
 {
     DeleteFileW(GetNativePath(path).c_str());
