@@ -1,16 +1,17 @@
 #include <Platform/DigitGrouping.h>
 #include <Platform/Windows1252.h>
 
-#include <algorithm>
-
 namespace Vek::Platform
 {
 
 char EncodeSeparator(char32_t character) noexcept
 {
-    char32_t const unit = character == U'\u202F' ? U'\u00A0' : character;
-    auto const found = std::find(c_windows1252Units.begin(), c_windows1252Units.end(), unit);
-    return found == c_windows1252Units.end() ? '\0' : static_cast<char>(found - c_windows1252Units.begin());
+    if (character == U'\u202F')
+        return '\xA0';
+    if (character == 0 || character > 0xFFFF)
+        return '\0';
+    char const byte = GetWindows1252().Encode(std::wstring(1, static_cast<wchar_t>(character)))[0];
+    return byte == '?' ? '\0' : byte; // what the page has not
 }
 
 } // namespace Vek::Platform
