@@ -19,37 +19,6 @@ namespace Tests
 
 using namespace VekSysBase;
 
-TEST(Feiertage, NamedByDate)
-{
-    struct Row
-    {
-        VekDateEx date;
-        wchar_t const* name;
-    };
-    Row const rows[] = {
-        { { 1, 1, 2024 }, L"Neujahr" },
-        { { 6, 1, 2024 }, L"Heilige Drei K\u00F6nige" },
-        { { 1, 4, 2024 }, L"Ostermontag" },
-        { { 1, 5, 2024 }, L"Staatsfeiertag" },
-        { { 9, 5, 2024 }, L"Christi Himmelfahrt" },
-        { { 20, 5, 2024 }, L"Pfingstmontag" },
-        { { 30, 5, 2024 }, L"Fronleichnam" },
-        { { 15, 8, 2024 }, L"Mari\u00E4 Himmelfahrt" },
-        { { 26, 10, 2024 }, L"Nationalfeiertag" },
-        { { 1, 11, 2024 }, L"Allerheiligen" },
-        { { 8, 12, 2024 }, L"Mari\u00E4 Empf\u00E4ngnis" },
-        { { 25, 12, 2024 }, L"Christtag" },
-        { { 26, 12, 2024 }, L"Stefanitag" },
-        { { 1, 5, 2008 }, L"Staatsfeiertag" }, // and Ascension Day
-        { { 24, 12, 2024 }, L"" },
-        { {}, L"" },
-    };
-    for (Row const& row : rows)
-        EXPECT_EQ(GetFeiertagName(GetFeiertag(row.date)), row.name);
-    EXPECT_EQ(GetFeiertagName(static_cast<Feiertag>(14)), L"");
-    EXPECT_EQ(GetFeiertagName(static_cast<Feiertag>(-1)), L"");
-}
-
 TEST(Feiertage, OfAYearAreThoseOfItsDays)
 {
     std::vector<ListedDay> const list = ListDays(1583, 2500);
@@ -70,16 +39,14 @@ TEST(Feiertage, OfAYearAreThoseOfItsDays)
     }
 }
 
-TEST(CalendarNames, Ends)
+TEST(CalendarNames, Ends) // the example DueDates shows those between
 {
-    EXPECT_EQ(GetMonatsname(1), L"J\u00E4nner");
-    EXPECT_EQ(GetMonatsname(12), L"Dezember");
-    EXPECT_EQ(GetWochentagsname(DayOfWeek::Saturday), L"Samstag");
-    EXPECT_EQ(GetWochentagskuerzel(DayOfWeek::Sunday), L"So");
-    for (int const month : { 0, 13, std::numeric_limits<int>::min(), std::numeric_limits<int>::max() })
-        EXPECT_EQ(GetMonatsname(month), L"");
-    EXPECT_EQ(GetWochentagsname(static_cast<DayOfWeek>(7)), L"");
-    EXPECT_EQ(GetWochentagskuerzel(static_cast<DayOfWeek>(-1)), L"");
+    EXPECT_TRUE(GetMonatsname(1) == L"J\u00E4nner" && GetMonatsname(12) == L"Dezember");
+    EXPECT_TRUE(GetMonatsname(std::numeric_limits<int>::min()).empty() && GetMonatsname(13).empty());
+    EXPECT_TRUE(GetWochentagsname(static_cast<DayOfWeek>(7)).empty());
+    EXPECT_TRUE(GetWochentagskuerzel(static_cast<DayOfWeek>(-1)).empty());
+    EXPECT_TRUE(GetFeiertagName(static_cast<Feiertag>(14)).empty() &&
+                GetFeiertagName(static_cast<Feiertag>(-1)).empty());
 }
 
 TEST(Kalenderwoche, EveryDayBothWays)
@@ -104,30 +71,13 @@ TEST(Kalenderwoche, EveryDayBothWays)
 
 TEST(Kalenderwoche, WhatIsNotThere)
 {
-    EXPECT_EQ(GetKalenderwochenInYear(2020), 53);
-    EXPECT_EQ(GetKalenderwochenInYear(2021), 52);
-    struct Row
-    {
-        Kalenderwoche week;
-        DayOfWeek dayOfWeek;
-        char const* why;
+    auto const isMissing = [](int year, int week, int day) {
+        return GetDateInKalenderwoche({ year, week }, static_cast<DayOfWeek>(day)).IsZero();
     };
-    Row const rows[] = {
-        { { 2021, 53 }, DayOfWeek::Monday, "a year of 52 weeks" },
-        { { 2021, 0 }, DayOfWeek::Monday, "no week" },
-        { { 2021, 1 }, static_cast<DayOfWeek>(7), "no day" },
-        { { 0, 1 }, static_cast<DayOfWeek>(-1), "no day either" },
-        { { 65536, 2 }, DayOfWeek::Monday, "behind the last year" },
-        { { std::numeric_limits<int>::max(), 1 }, DayOfWeek::Monday, "far behind it" },
-        { { -1, 51 }, DayOfWeek::Monday, "before the first year" },
-    };
-    for (Row const& row : rows)
-        EXPECT_TRUE(GetDateInKalenderwoche(row.week, row.dayOfWeek).IsZero()) << row.why;
+    EXPECT_TRUE(isMissing(2021, 53, 0) && isMissing(2021, 0, 0) && isMissing(2021, 1, 7) && isMissing(2021, 1, -1));
+    EXPECT_TRUE(isMissing(65536, 2, 0) && isMissing(std::numeric_limits<int>::max(), 1, 0) && isMissing(-1, 51, 0));
     for (VekDateEx const date : { VekDateEx(1, 1, 0), VekDateEx(31, 12, 65535) }) // in weeks of years that no date has
-    {
-        Kalenderwoche const week = GetKalenderwoche(date);
-        EXPECT_EQ(GetDateInKalenderwoche(week, date.GetDayOfWeek()), date) << week.year;
-    }
+        EXPECT_EQ(GetDateInKalenderwoche(GetKalenderwoche(date), date.GetDayOfWeek()), date);
     EXPECT_EQ(GetKalenderwoche({ 31, 2, 2024 }), Kalenderwoche());
 }
 
@@ -173,9 +123,6 @@ TEST(Zinstage, ByEveryMethod)
         for (Zinsmethode const method : { Zinsmethode::Kalender360, Zinsmethode::Kalender365 })
             EXPECT_EQ(Zinstage(row.from, row.to, method), row.calendar);
     }
-    EXPECT_EQ(Zinsjahr(Zinsmethode::Monate30Jahr360), 360);
-    EXPECT_EQ(Zinsjahr(Zinsmethode::Kalender360), 360);
-    EXPECT_EQ(Zinsjahr(Zinsmethode::Kalender365), 365);
     auto const unknown = static_cast<Zinsmethode>(3);
     EXPECT_THROW(Zinstage(VekDateEx(), VekDateEx(), unknown), Vek::EnumOutOfRangeException);
     EXPECT_THROW(Zinsjahr(unknown), Vek::EnumOutOfRangeException);

@@ -92,48 +92,26 @@ VekDateEx MovedMonths(VekDateEx date, int months)
 
 } // namespace
 
-TEST(VekDateEx, DaysAreAddedAsYearByYear)
+TEST(VekDateEx, DaysAndMonthsAreAddedAsYearByYear)
 {
-    struct Row
+    VekDateEx const leapDay(29, 2, 2024);
+    for (int days = -200'000; days <= 200'000; ++days)
+        ASSERT_EQ(Moved(leapDay, days), AddDaysYearByYear(leapDay, days)) << days;
+    // Across both ends of the years, and from days that are not there.
+    for (VekDateEx const date : { VekDateEx(1, 1, 1), VekDateEx(31, 12, 65535), VekDateEx(31, 2, 2023), VekDateEx(),
+                                  VekDateEx(255, 255, 65535), VekDateEx(0, 13, 2000) })
+        for (int step = -200'000; step <= 200'000; step += 997)
+        {
+            ASSERT_EQ(Moved(date, step), AddDaysYearByYear(date, step)) << step;
+            ASSERT_EQ(MovedMonths(date, step / 40), AddMonthsYearByYear(date, step / 40)) << step;
+        }
+    for (int const farthest : { c_max, c_min })
     {
-        VekDateEx date;
-        int step;
-        char const* why;
-    };
-    Row const rows[] = {
-        { { 29, 2, 2024 }, 1, "every distance" },
-        { { 1, 1, 1 }, 997, "before the year 0" },
-        { { 31, 12, 65535 }, 997, "behind the last" },
-        { { 31, 2, 2023 }, 997, "a day that is not there" },
-        { { 0, 0, 0 }, 997, "the zero date" },
-        { { 255, 255, 65535 }, 997, "the greatest fields" },
-        { { 0, 13, 2000 }, 997, "a month behind the year" },
-    };
-    for (Row const& row : rows)
-    {
-        SCOPED_TRACE(row.why);
-        for (int days = -200'000; days <= 200'000; days += row.step)
-            ASSERT_EQ(Moved(row.date, days), AddDaysYearByYear(row.date, days)) << days;
+        EXPECT_EQ(Moved(leapDay, farthest), AddDaysYearByYear(leapDay, farthest));
+        EXPECT_EQ(MovedMonths({ 31, 1, 2024 }, farthest), AddMonthsYearByYear({ 31, 1, 2024 }, farthest));
     }
-}
-
-TEST(VekDateEx, FarthestStepsReturnAtOnce)
-{
-    VekDateEx const date(1, 1, 2024);
-    for (int days : { c_max, c_min, c_max - 1, c_min + 1 })
-        EXPECT_EQ(Moved(date, days), AddDaysYearByYear(date, days)) << days;
-    for (int months : { c_max, c_min })
-        EXPECT_EQ(MovedMonths({ 31, 1, 2024 }, months), AddMonthsYearByYear({ 31, 1, 2024 }, months)) << months;
     for (int i = 0; i < 100'000; ++i) // a step per year would take minutes
         ASSERT_EQ(VekDateEx::GetYearsBetween({ 2, 1, 0 }, { 1, 1, 65535 }), 65534);
-}
-
-TEST(VekDateEx, MonthsAreAddedAsYearByYear)
-{
-    for (VekDateEx const date : { VekDateEx(31, 1, 2024), VekDateEx(29, 2, 2000), VekDateEx(30, 6, 65500),
-                                  VekDateEx(31, 3, 100), VekDateEx(0, 0, 0), VekDateEx(77, 255, 5) })
-        for (int months = -5000; months <= 5000; ++months)
-            ASSERT_EQ(MovedMonths(date, months), AddMonthsYearByYear(date, months)) << months;
 }
 
 TEST(VekDateEx, DayOfYearAndOfWeekFollowTheirFormulas)
@@ -151,9 +129,8 @@ TEST(VekDateEx, DayOfYearAndOfWeekFollowTheirFormulas)
                 int const r = year - 1 - 100 * c;
                 int const sum = dayOfYear + floorDivide(c, 4) + r + 5 * c + r / 4 + 28;
                 ASSERT_EQ(date.GetDayOfWeekInt(), (sum % 7 + 7) % 7) << testing::PrintToString(date);
+                ASSERT_EQ(date.GetDayOfWeek(), static_cast<DayOfWeek>((date.GetDayOfWeekInt() + 6) % 7));
             }
-    EXPECT_EQ(VekDateEx(1, 1, 2001).GetDayOfWeek(), DayOfWeek::Monday);
-    EXPECT_EQ(VekDateEx(7, 1, 2001).GetDayOfWeek(), DayOfWeek::Sunday);
 }
 
 TEST(VekDateEx, EveryDayOfACycleBetweenItsNeighbours)
@@ -193,7 +170,6 @@ TEST(VekDateEx, YearsAndMonthsBetween)
         {
             VekDateEx const to = Moved(from, days);
             ASSERT_EQ(VekDateEx::GetYearsBetween(from, to), CountAnniversaries(from, to)) << days;
-            // The months fit in, by the day of the month alone, and one more would not.
             VekDateEx const& lo = days < 0 ? to : from;
             VekDateEx const& hi = days < 0 ? from : to;
             int const months = VekDateEx::GetMonthsBetween(lo, hi);
@@ -201,10 +177,6 @@ TEST(VekDateEx, YearsAndMonthsBetween)
             ASSERT_EQ(months, hi.GetDay() < lo.GetDay() ? all - 1 : all) << days;
             ASSERT_EQ(VekDateEx::GetMonthsBetween(hi, lo), -months);
         }
-    EXPECT_EQ(VekDateEx::GetMonthsBetween({ 31, 1, 2023 }, { 1, 3, 2023 }), 1);
-    EXPECT_EQ(VekDateEx::GetMonthsBetween({ 31, 1, 2023 }, { 28, 2, 2023 }), 0);
-    EXPECT_EQ(VekDateEx::GetYearsBetween({ 29, 2, 2020 }, { 28, 2, 2021 }), 0);
-    EXPECT_EQ(VekDateEx::GetYearsBetween({ 29, 2, 2020 }, { 1, 3, 2021 }), 1);
 }
 
 TEST(VekDateEx, InvalidDatesHaveNoDistance)
@@ -232,45 +204,43 @@ TEST(VekDateEx, InvalidDatesHaveNoDistance)
 TEST(VekDateEx, BetweenBoundsInEitherOrder)
 {
     VekDateEx const zero;
-    VekDateEx const first(1, 1, 2024);
-    VekDateEx const middle(2, 1, 2024);
-    VekDateEx const last(3, 1, 2024);
+    VekDateEx const days[] = { zero, { 1, 1, 2024 }, { 2, 1, 2024 }, { 3, 1, 2024 } };
     struct Row
     {
-        VekDateEx date;
-        VekDateEx from;
-        VekDateEx to;
+        int date; // of the days above, as the bounds
+        int from;
+        int to;
         bool inclusive;
         bool open;
         char const* why;
     };
     Row const rows[] = {
-        { middle, first, last, true, true, "inside" },
-        { middle, last, first, true, true, "inside, bounds exchanged" },
-        { first, first, last, true, false, "the lower bound" },
-        { last, first, last, true, false, "the upper bound" },
-        { last, middle, first, false, false, "outside" },
-        { first, zero, last, true, true, "open below" },
-        { last, zero, last, true, false, "open below, the upper bound" },
-        { first, first, zero, true, true, "open above: the lower bound is in" },
-        { first, middle, zero, false, false, "open above, before it" },
-        { first, zero, zero, false, false, "open on both sides is below zero" },
+        { 2, 1, 3, true, true, "inside" },
+        { 2, 3, 1, true, true, "inside, bounds exchanged" },
+        { 1, 1, 3, true, false, "the lower bound" },
+        { 3, 1, 3, true, false, "the upper bound" },
+        { 3, 2, 1, false, false, "outside" },
+        { 1, 0, 3, true, true, "open below" },
+        { 3, 0, 3, true, false, "open below, the upper bound" },
+        { 1, 1, 0, true, true, "open above: the lower bound is in" },
+        { 1, 2, 0, false, false, "open above, before it" },
+        { 1, 0, 0, false, false, "open on both sides is below zero" },
     };
     for (Row const& row : rows)
     {
         SCOPED_TRACE(row.why);
-        EXPECT_EQ(row.date.IsDateBetween(row.from, row.to, true), row.inclusive);
-        EXPECT_EQ(row.date.IsDateBetween(row.from, row.to, false), row.open);
+        EXPECT_EQ(days[row.date].IsDateBetween(days[row.from], days[row.to], true), row.inclusive);
+        EXPECT_EQ(days[row.date].IsDateBetween(days[row.from], days[row.to], false), row.open);
     }
 }
 
-TEST(VekDateEx, Quarters)
+TEST(VekDateEx, EachQuarterConversionHasItsOwnAnswerToNone)
 {
-    for (unsigned int month = 0; month <= 13; ++month)
-        EXPECT_EQ(VekDateEx::ConvertMonatToQuartal(month), month < 1 || month > 12 ? 0 : (month + 2) / 3);
-    for (int month = 0; month <= 255; ++month)
-        EXPECT_EQ(VekDateEx(1, month, 2024).GetQuartal(), month == 0 ? 1U : static_cast<unsigned int>(month + 2) / 3);
-    for (unsigned int quarter : { 0U, 1U, 2U, 3U, 4U, 5U, std::numeric_limits<unsigned int>::max() })
+    EXPECT_TRUE(VekDateEx().GetQuartal() == 1 && VekDateEx(1, 4, 2024).GetQuartal() == 2);
+    EXPECT_TRUE(VekDateEx::ConvertMonatToQuartal(0) == 0 && VekDateEx::ConvertMonatToQuartal(13) == 0);
+    for (unsigned int month = 1; month <= 12; ++month)
+        EXPECT_EQ(VekDateEx::ConvertMonatToQuartal(month), (month + 2) / 3);
+    for (unsigned int quarter = 0; quarter <= 5; ++quarter)
     {
         bool const isOne = quarter >= 1 && quarter <= 4;
         EXPECT_EQ(VekDateEx::ConvertQuartalToMonat(quarter), isOne ? 3 * quarter - 2 : 0);

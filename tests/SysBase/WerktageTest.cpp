@@ -71,13 +71,10 @@ TEST(Werktage, CountedOneByOne)
 
 TEST(Werktage, FarAwayAndBack)
 {
-    for (int const number : { 1'000'000, 15'000'000 })
-    {
-        VekDateEx const start(2, 1, 1900);
-        VekDateEx const end = AddWerktage(start, number);
-        EXPECT_EQ(GetWerktageBetween(start, end), number);
-        EXPECT_EQ(AddWerktage(end, -number), start);
-    }
+    VekDateEx const start(2, 1, 1900);
+    VekDateEx const end = AddWerktage(start, 15'000'000);
+    EXPECT_EQ(GetWerktageBetween(start, end), 15'000'000);
+    EXPECT_EQ(AddWerktage(end, -15'000'000), start);
     EXPECT_TRUE(AddWerktage({ 1, 1, 2024 }, std::numeric_limits<int>::min()).IsValid(true));
     VekDateEx const bad(31, 2, 2024);
     EXPECT_TRUE(AddWerktage(bad, 1).IsZero() && AddBankwerktage(VekDateEx(), 0).IsZero());
