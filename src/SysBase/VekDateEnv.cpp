@@ -12,12 +12,16 @@ using namespace Internal;
 
 VekDateEx GetNext(FreeDays kind, VekDateEx const& date, unsigned int days)
 {
-    YearDay const first = GetYearDay(date);
-    bool const isFirstFree = Contains(kind, date);
+    YearDay first;
+    bool const isValid = TryGetYearDay(date, first);
+    if (!isValid)
+        first = GetYearDay(date);
+    bool const isFirstFree = isValid ? Contains(kind, first) : Contains(kind, date);
     if (days == 0 && !isFirstFree)
         return date; // as it is, also if it is invalid
-    // The first day counts apart: an invalid date may stand for a holiday, but is none.
-    long long const freeDays = (isFirstFree ? 1 : 0) + Count(kind, first, days + 1LL) - (Contains(kind, first) ? 1 : 0);
+    long long freeDays = Count(kind, first, days + 1LL);
+    if (!isValid) // it may stand for a holiday, but is none
+        freeDays += (isFirstFree ? 1 : 0) - (Contains(kind, first) ? 1 : 0);
     return GetDate(FindOutside(kind, Add(first, days + freeDays), 1));
 }
 

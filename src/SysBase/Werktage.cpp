@@ -13,17 +13,20 @@ using namespace Internal;
 
 bool IsOutside(FreeDays kind, VekDateEx const& date)
 {
-    return date.IsValid(true) && !Contains(kind, date);
+    YearDay day;
+    return TryGetYearDay(date, day) && !Contains(kind, day);
 }
 
 VekDateEx AddOutside(FreeDays kind, VekDateEx const& date, int number)
 {
-    return date.IsValid(true) ? GetDate(AddOutside(kind, GetYearDay(date), number)) : VekDateEx();
+    YearDay day;
+    return TryGetYearDay(date, day) ? GetDate(AddOutside(kind, day, number)) : VekDateEx();
 }
 
 VekDateEx FindOutside(FreeDays kind, VekDateEx const& date, int direction)
 {
-    return date.IsValid(true) ? GetDate(FindOutside(kind, GetYearDay(date), direction)) : VekDateEx();
+    YearDay day;
+    return TryGetYearDay(date, day) ? GetDate(FindOutside(kind, day, direction)) : VekDateEx();
 }
 
 int CountOutsideBetween(FreeDays kind, VekDateEx const& a, VekDateEx const& b)

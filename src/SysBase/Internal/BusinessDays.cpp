@@ -5,10 +5,10 @@ namespace VekSysBase::Internal
 
 YearDay GetYearDay(VekDateEx const& date)
 {
-    int const index = GetDayOfYear(date.GetDay(), date.GetMonth(), date.GetYear()) - 1;
-    if (index >= 0 && index < 365)
-        return { date.GetYear(), index };
-    return Add({ date.GetYear(), 0 }, index);
+    YearDay day;
+    if (TryGetYearDay(date, day))
+        return day;
+    return Add({ date.GetYear(), 0 }, GetDayOfYear(date.GetDay(), date.GetMonth(), date.GetYear()) - 1);
 }
 
 VekDateEx GetDate(YearDay day)
@@ -33,9 +33,9 @@ YearDay Add(YearDay day, long long days)
 
 bool Contains(FreeDays kind, VekDateEx const& date)
 {
-    int const day = date.GetDay();
-    if (day >= 1 && day <= Civil::GetDaysInMonth(date.GetMonth(), date.GetYear()))
-        return Contains(kind, { date.GetYear(), GetDayOfYear(day, date.GetMonth(), date.GetYear()) - 1 });
+    YearDay day;
+    if (TryGetYearDay(date, day))
+        return Contains(kind, day);
     return kind != FreeDays::Feiertag && date.GetDayOfWeek() >= DayOfWeek::Saturday;
 }
 

@@ -4,6 +4,8 @@
 #include <SysBase/Internal/BusinessYear.h>
 #include <SysBase/Internal/DayNumbers.h>
 
+#include <cstdint>
+
 namespace VekSysBase::Internal
 {
 
@@ -13,6 +15,23 @@ struct YearDay
     long long year;
     int index;
 };
+
+/// The days of a year before each month, and all of them; of common years and of leap years.
+constexpr std::uint16_t c_daysBeforeMonth[2][13] = {
+    { 0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365 },
+    { 0, 31, 60, 91, 121, 152, 182, 213, 244, 274, 305, 335, 366 },
+};
+
+/// False for an invalid date.
+inline bool TryGetYearDay(VekDateEx const& date, YearDay& day)
+{
+    auto const month = static_cast<unsigned int>(date.GetMonth()) - 1;
+    if (month >= 12)
+        return false;
+    std::uint16_t const* const before = c_daysBeforeMonth[Civil::IsLeapYear(date.GetYear()) ? 1 : 0] + month;
+    day = { date.GetYear(), before[0] + date.GetDay() - 1 };
+    return date.GetDay() >= 1 && day.index < before[1];
+}
 
 /// Of an invalid date, the day that VekDateEx::AddDays starts from.
 YearDay GetYearDay(VekDateEx const& date);
