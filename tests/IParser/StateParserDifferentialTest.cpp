@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <random>
 #include <string>
 
@@ -97,6 +98,7 @@ TEST(StateParserDifferential, TellsNumbersFromTexts)
     for (auto const& row : rows)
         for (bool const isTextView : { false, true })
         {
+            errno = EDOM;
             SCOPED_TRACE(Quoted(row.text));
             GrammarParser parser(
                 { { .text = { Reaction::Continue }, .number = { Reaction::Continue }, .isTextView = isTextView } });
@@ -104,5 +106,6 @@ TEST(StateParserDifferential, TellsNumbersFromTexts)
                 row.number != nullptr ? std::string("number ") + row.number : "text " + Quoted(row.text);
             EXPECT_EQ(what + " @0 in 7\n-> 0 in 7 at 1:" + std::to_string(row.text.size() + 1) + "\n",
                       parser.RunString(row.text));
+            EXPECT_EQ(EDOM, errno);
         }
 }

@@ -22,6 +22,7 @@ OutcomeRow const c_rows[] = {
     { "text in an unknown element may hold codes", "^<x>&nope; &#x41;</x>$", "ok 2:42 / <settings;?x;>settings;" },
     { "codes in values and content", "^<printer name='&lt;&amp;&#65;&auml;'><port>&quot;&#10;&euro;</port></printer>$", "ok 2:99 / <settings;@name=<&A\344;<printer;port=\"\n\200;>printer;>settings;" },
     { "attribute without value is replaced by the next", "^<printer name port='1'/>$", "ok 2:46 / <settings;@name=1;<printer;>printer;>settings;" },
+    { "what looks like a code behind a value", "^<printer name=\"a\"lt; port='1'/>$", "ok 2:53 / <settings;@name=a;?@lt;=1;<printer;>printer;>settings;" },
     { "declaration with more in it", "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><settings></settings>", "ok 1:65 / <settings;>settings;" },
     { "text before the declaration is dropped", "x<?xml version='1.0'?><settings></settings>", "ok 1:44 / <settings;>settings;" },
     { "text after the root is dropped", "^</settings> trailing <x>", "ok 2:35 / <settings;>settings;" },

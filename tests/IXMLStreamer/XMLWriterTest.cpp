@@ -214,7 +214,8 @@ TEST(XMLWriter, CopyGoesOnFromTheSamePlace)
     XMLWriter writer;
     EXPECT_TRUE(writer.StartWriting(stream, false) && Begin(writer));
     XMLWriter copy(writer);
-    EXPECT_TRUE(Begin(writer) && End(copy) && Finish(copy) && End(writer) && End(writer));
-    EXPECT_TRUE(Finish(writer));
+    EXPECT_TRUE(Begin(writer) && End(copy) && Finish(copy));
+    copy = writer;
+    EXPECT_TRUE(End(copy) && End(copy) && Finish(copy));
     EXPECT_EQ("<a>\n\t<a>\n</a>\n\t</a>\n</a>\n", stream.str());
 }
