@@ -31,7 +31,7 @@ std::string KindOf(Symbol const& symbol)
 {
     char const* const kinds[] = { "none", "i", "t", "n", "raw" };
     if (symbol.GetSymbolType() == Symbol::Token)
-        return "#" + std::to_string(symbol.GetTokenId());
+        return std::string("#").append(std::to_string(symbol.GetTokenId()));
     return symbol.GetState() == Symbol::Unterminated ? "cut" : kinds[symbol.GetSymbolType() - Symbol::Undefined];
 }
 
