@@ -32,15 +32,17 @@ compile_for_microsoft()
     cmake --preset microsoft-abi && cmake --build --preset microsoft-abi
 }
 
-# Another build, in another folder and without the compiler cache, gives the same DLL.
+# Another build, in another folder and without the compiler cache, gives the same DLLs.
 build_dll_again()
 {
-    local folder=$PWD/build/others/windows-again dll=bin/FrameworkUtilities.dll
+    local folder=$PWD/build/others/windows-again dll
     rm -rf "$folder"
     cmake --preset windows-release -B "$folder" -DVEK_BUILD_TESTS=OFF -DVEK_BUILD_EXAMPLES=OFF &&
         CCACHE_DISABLE=1 cmake --build "$folder" --target FrameworkUtilities &&
-        cmp "build/windows-release/$dll" "$folder/$dll" &&
-        cmp "build/windows-release/src/libFrameworkUtilities.dll.a" "$folder/src/libFrameworkUtilities.dll.a"
+        cmp "build/windows-release/src/libFrameworkUtilities.dll.a" "$folder/src/libFrameworkUtilities.dll.a" &&
+        for dll in "$folder"/bin/*.dll; do
+            cmp "build/windows-release/bin/${dll##*/}" "$dll" || return
+        done
 }
 
 mkdir -p build/others
@@ -52,5 +54,5 @@ check "Static library in a host, Windows, one file" static-windows \
 check "Library in a host, clang 19 with libc++" libcxx \
     try_host libcxx -DCXX=clang++-19 "-DHOST_OPTIONS=-DCMAKE_CXX_FLAGS=-stdlib=libc++;$launcher"
 check "Microsoft's ABI, compiled" microsoft-abi compile_for_microsoft
-check "The same DLL from another build" windows-again build_dll_again
+check "The same DLLs from another build" windows-again build_dll_again
 test_target "Fuzzers, clang 14" fuzz
