@@ -73,7 +73,7 @@ test_target()
 
 packages=(g++ cmake ninja-build gdb gdb-source googletest clang-format-14 gnucash-common python3 pkg-config binutils gzip
     libexpat1-dev libpython3.11-testsuite locales tzdata unicode-data yudit-doc)
-[[ " ${targets[*]} " != *" windows "* ]] || packages+=(g++-mingw-w64-x86-64-posix wine wine64)
+[[ " ${targets[*]} " != *" windows "* ]] || packages+=(g++-mingw-w64-x86-64-posix wine wine64 xauth xvfb)
 [[ " ${targets[*]} " != *" others "* ]] ||
     packages+=(ccache clang libclang-rt-14-dev clang-19 lld-19 llvm-19 libc++-19-dev libc++abi-19-dev libwine-dev)
 if ! require_packages "${packages[@]}" ||
@@ -91,6 +91,7 @@ for target in "${targets[@]}"; do
     others) . tools/other-builds.sh ;;
     esac
 done
-[ ! -d build/windows-release/wineprefix ] ||
-    WINEPREFIX=$PWD/build/windows-release/wineprefix wineserver -k >/dev/null 2>&1
+for prefix in "$PWD"/build/windows-release/wineprefix*; do
+    [ ! -d "$prefix" ] || WINEPREFIX=$prefix wineserver -k >/dev/null 2>&1
+done
 finish

@@ -25,6 +25,9 @@ allow IParser Utilities Exceptions Platform
 allow IXMLStreamer IParser Utilities Exceptions Platform
 allow Platform Exceptions
 
+# The dialog helpers stand on top of Utilities, for Windows only.
+report "Only the UI may include itself:" "$(grep -rn '^#include <Utilities/UI/' . | grep -v '^\./Utilities/UI/')"
+
 # What a public header includes of ours is public too.
 private=$(grep -HoE '^#include <[^>]*/[^>]*>' "$@" | grep -vE '<(sys|bits)/' | while IFS=: read -r header include; do
     included=${include#*<}

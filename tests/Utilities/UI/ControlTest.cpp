@@ -1,0 +1,231 @@
+// Controls and windows of a real dialog: read, written, moved and measured.
+
+#include <Exceptions/InvalidStateException.h>
+#include <Utilities/IntRectangleSets.h>
+#include <Utilities/UI/DeviceContext.h>
+#include <Utilities/UI/EditInput.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "TestDialog.h"
+
+namespace Tests
+{
+
+namespace
+{
+
+using namespace Vek::Framework::Utilities;
+using Vek::InvalidStateException;
+
+TEST(Control, NothingGoesWithoutAHandle)
+{
+    UI::Control control;
+    UI::Window window;
+    EXPECT_FALSE(control.IsValid());
+    EXPECT_THROW(control.GetHandle(), InvalidStateException);
+    EXPECT_THROW(control.SetText(L""), InvalidStateException);
+    EXPECT_THROW(control.GetText(), InvalidStateException);
+    EXPECT_THROW(control.SetFont(nullptr), InvalidStateException);
+    EXPECT_THROW(control.SetBounds({}), InvalidStateException);
+    EXPECT_THROW(control.Redraw(), InvalidStateException);
+    EXPECT_THROW(control.GetSingleLineSize(L"x"), InvalidStateException);
+    EXPECT_THROW(window.Close(), InvalidStateException);
+    EXPECT_THROW(window.GetDPI(), InvalidStateException);
+    EXPECT_THROW(window.SetClientSize({}), InvalidStateException);
+}
+
+TEST(Control, IsReadAndWritten)
+{
+    TestDialog().Run(
+        [](TestDialog& dialog)
+        {
+            UI::Control edit = dialog.GetControlById(CONTROL_EDIT);
+            EXPECT_EQ(dialog.GetControlById(CONTROL_LABEL).GetText(), L"Gr\u00F6\u00DFe");
+            EXPECT_FALSE(dialog.GetControlById(999).IsValid());
+            EXPECT_EQ(edit.GetText(), L"");
+            edit.SetText(L"\u00DCber \xD83D\xDE00");
+            EXPECT_EQ(edit.GetText(), L"\u00DCber \xD83D\xDE00");
+
+            HFONT const font = CreateFontW(-30, 0, 0, 0, FW_BOLD, 0, 0, 0, 0, 0, 0, 0, 0, L"DejaVu Sans");
+            IntSize const before = edit.GetSingleLineSize(L"Text");
+            HFONT const former = edit.GetFont();
+            edit.SetFont(font);
+            EXPECT_EQ(edit.GetFont(), font);
+            EXPECT_GT(edit.GetSingleLineSize(L"Text").GetHeight(), before.GetHeight());
+            edit.SetFont(former);
+            EXPECT_EQ(edit.GetSingleLineSize(L"Text"), before);
+            DeleteObject(font);
+
+            edit.SetEnabled(false);
+            EXPECT_FALSE(IsWindowEnabled(edit.GetHandle()));
+            edit.SetVisible(false);
+            EXPECT_EQ(GetWindowLongPtrW(edit.GetHandle(), GWL_STYLE) & WS_VISIBLE, 0);
+            edit.SetVisible(true);
+            EXPECT_NE(GetWindowLongPtrW(edit.GetHandle(), GWL_STYLE) & WS_VISIBLE, 0);
+
+            edit.SetBounds(IntRectangle::FromPointAndSize(11, 13, 70, 20));
+            EXPECT_EQ(edit.GetBoundsInParent(), IntRectangle::FromPointAndSize(11, 13, 70, 20));
+            POINT origin{ 11, 13 };
+            ClientToScreen(dialog.GetWindow().GetHandle(), &origin);
+            EXPECT_EQ(edit.GetBounds(), IntRectangle::FromPointAndSize(origin.x, origin.y, 70, 20));
+            EXPECT_EQ(dialog.GetWindow().GetBoundsInParent(), dialog.GetWindow().GetBounds());
+
+            dialog.GetWindow().SetVisible(true); // else there is nothing to paint
+            ValidateRect(edit.GetHandle(), nullptr);
+            edit.Redraw();
+            EXPECT_TRUE(GetUpdateRect(edit.GetHandle(), nullptr, FALSE));
+        });
+}
+
+TEST(Control, MeasuresText)
+{
+    TestDialog().Run(
+        [](TestDialog& dialog)
+        {
+            UI::Control const label = dialog.GetControlById(CONTROL_LABEL);
+            std::wstring const text = L"Der Betrag ist bis zum Monatsende auf das angegebene Konto zu \u00FCberweisen.";
+            IntSize const line = label.GetSingleLineSize(text);
+            {
+                UI::DeviceContext const context(label.GetHandle());
+                HGDIOBJ const former = SelectObject(context, label.GetFont());
+                SIZE expected{};
+                GetTextExtentPoint32W(context, L"Betrag", 6, &expected);
+                EXPECT_EQ(label.GetSingleLineSize(L"Betrag"), IntSize(expected.cx, expected.cy))
+                    << "the system's own measure";
+                SelectObject(context, former);
+            }
+            int previous = line.GetHeight();
+            EXPECT_EQ(label.GetRequiredHeightForFixedWidth(text, line.GetWidth() + 4), previous);
+            EXPECT_EQ(label.GetRequiredHeightForFixedWidth(text, line.GetWidth() + 3), 2 * previous) << "the margin";
+            for (int width = line.GetWidth() + 4; width > -20; --width)
+            {
+                int const height = label.GetRequiredHeightForFixedWidth(text, width);
+                ASSERT_GE(height, previous) << width;
+                ASSERT_EQ(height % line.GetHeight(), 0);
+                previous = height;
+            }
+            EXPECT_EQ(label.GetRequiredHeightForFixedWidth(text, (-2147483647 - 1)), previous);
+            EXPECT_GE(label.GetRequiredHeightForFixedWidth(L"a\nb", 1000), 2 * line.GetHeight());
+            EXPECT_GE(label.GetRequiredHeightForFixedWidth(L"\n\n\na\xD83D\xDE00 \xD83D\n", 1000),
+                      5 * line.GetHeight());
+            EXPECT_EQ(label.GetTextHeight(L"", 10), line.GetHeight());
+            EXPECT_EQ(label.GetTextHeight(text, 50), label.GetRequiredHeightForFixedWidth(text, 50));
+            EXPECT_THROW(label.GetSingleLineSize(L""), InvalidStateException);
+            EXPECT_THROW(label.GetRequiredHeightForFixedWidth(L"", 10), InvalidStateException);
+        });
+}
+
+TEST(Window, TakesSizesAndCentres)
+{
+    TestDialog().Run(
+        [](TestDialog& dialog)
+        {
+            UI::Window& window = dialog.GetWindow();
+            int const border = window.GetNonClientAreaHeight();
+            EXPECT_GT(border, 0);
+            window.SetSize({ 300, 200 });
+            EXPECT_EQ(window.GetBounds().GetSize(), IntSize(300, 200 + border));
+            window.SetClientSize({ 301, 203 });
+            RECT client{};
+            GetClientRect(window.GetHandle(), &client);
+            EXPECT_EQ(IntSize(client.right, client.bottom), IntSize(301, 203));
+
+            IntRectangle const screen = UI::Control(GetDesktopWindow()).GetBounds();
+            HWND const owner = GetParent(window.GetHandle());
+            IntRectangle const reference = owner == nullptr ? screen : UI::Control(owner).GetBounds();
+            window.CenterOnScreen({ 121, 61 });
+            EXPECT_EQ(window.GetBounds(), IntRectangle::FromCenterAndSize(reference.GetCenter(), { 121, 61 + border }));
+            window.CenterInWorkArea({ 100, 50 });
+            GetClientRect(window.GetHandle(), &client);
+            EXPECT_EQ(IntSize(client.right, client.bottom), IntSize(100, 50));
+            EXPECT_EQ(window.GetBounds(), CenterIn(window.GetBounds(), reference));
+        });
+}
+
+TEST(Window, CentresInTheWorkAreaAlsoWhereTheOwnerIsAtTheEdge)
+{
+    UI::Window owner(
+        CreateWindowExW(0, L"STATIC", L"", WS_POPUP, -400, -300, 200, 100, nullptr, nullptr, nullptr, nullptr));
+    UI::Window window(
+        CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 20, 20, owner.GetHandle(), nullptr, nullptr, nullptr));
+    window.CenterOnScreen({ 50, 40 });
+    EXPECT_EQ(window.GetBounds().GetTopLeft(), IntPoint(-325, -270));
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    ASSERT_TRUE(GetMonitorInfoW(MonitorFromWindow(owner.GetHandle(), MONITOR_DEFAULTTONEAREST), &monitor));
+    window.CenterInWorkArea({ 50, 40 });
+    EXPECT_EQ(window.GetBounds(), IntRectangle::FromPointAndSize(monitor.rcWork.left, monitor.rcWork.top, 50, 40));
+    owner.SetBounds(IntRectangle::FromPointAndSize(monitor.rcWork.right - 10, monitor.rcWork.bottom - 10, 200, 100));
+    window.CenterInWorkArea({ 50, 40 });
+    EXPECT_EQ(window.GetBounds().GetBottomRight(), IntPoint(monitor.rcWork.right, monitor.rcWork.bottom));
+    DestroyWindow(owner.GetHandle());
+}
+
+// The driver is asked by run-ui-tests.sh for one value after the other.
+TEST(Window, DPIIsThatOfTheSystem)
+{
+    char const* const expected = std::getenv("UI_TEST_DPI");
+    int const dpi = expected == nullptr ? 96 : std::atoi(expected);
+    TestDialog dialog;
+    EXPECT_THROW(dialog.GetDPICorrected(1), InvalidStateException);
+    dialog.Run(
+        [dpi](TestDialog& open)
+        {
+            EXPECT_EQ(open.GetWindow().GetDPI(), dpi);
+            for (int value = -1000; value <= 1000; ++value)
+                ASSERT_EQ(open.GetDPICorrected(value) * 96 >= value * dpi &&
+                              (open.GetDPICorrected(value) - 1) * 96 < value * dpi,
+                          true)
+                    << value;
+            EXPECT_EQ(open.GetDPICorrected(10), dpi == 96 ? 10 : dpi == 120 ? 13 : dpi == 144 ? 15 : 20);
+        });
+}
+
+TEST(EditInput, SelectsTheFirstBadCharacter)
+{
+    struct Row
+    {
+        wchar_t const* text;
+        DWORD from;
+        DWORD to;
+        char const* why;
+    };
+    Row const rows[] = {
+        { L"1.234,5x0", 7, 8, "a letter" },
+        { L"12,", 3, 3, "ends too early" },
+        { L"1\xD83D\xDE00", 1, 3, "a pair" },
+    };
+    TestDialog().Run(
+        [&rows](TestDialog& dialog)
+        {
+            dialog.GetWindow().SetVisible(true); // only then controls take the focus
+            UI::Control edit = dialog.GetControlById(CONTROL_EDIT);
+            Decimal amount = 7;
+            for (Row const& row : rows)
+            {
+                SCOPED_TRACE(row.why);
+                SetFocus(GetDlgItem(dialog.GetWindow().GetHandle(), IDOK));
+                edit.SetText(row.text);
+                AmountFault fault;
+                EXPECT_FALSE(UI::TryGetAmount(edit, amount, fault));
+                EXPECT_EQ(fault.position, row.from);
+                EXPECT_EQ(GetFocus(), edit.GetHandle());
+                DWORD from = 0, to = 0;
+                SendMessageW(edit.GetHandle(), EM_GETSEL, reinterpret_cast<WPARAM>(&from),
+                             reinterpret_cast<LPARAM>(&to));
+                EXPECT_EQ(from, row.from);
+                EXPECT_EQ(to, row.to);
+                EXPECT_EQ(amount, 7);
+            }
+            edit.SetText(L"-1.234,50");
+            EXPECT_TRUE(UI::TryGetAmount(edit, amount));
+            EXPECT_EQ(amount.ToString(L',', {}), L"-1234,50");
+        });
+}
+
+} // namespace
+
+} // namespace Tests
