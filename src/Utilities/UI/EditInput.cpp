@@ -34,4 +34,18 @@ bool TryGetAmount(Control const& edit, Decimal& amount)
     return TryGetAmount(edit, amount, fault);
 }
 
+bool TryGetDate(Control const& edit, DateTime& date, DateTextFault& fault)
+{
+    if (TryParseGerman(edit.GetText(), date, fault))
+        return true;
+    SelectCharacter(edit, fault.position);
+    return false;
+}
+
+bool TryGetDate(Control const& edit, DateTime& date)
+{
+    DateTextFault fault;
+    return TryGetDate(edit, date, fault);
+}
+
 } // namespace Vek::Framework::Utilities::UI

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Utilities/AmountText.h>
+#include <Utilities/DateTimeText.h>
 #include <Utilities/UI/Control.h>
 
 #include <cstddef>
@@ -16,5 +17,9 @@ VEK_API void SelectCharacter(Control const& edit, std::size_t position);
 /// wrong is selected, so that the user sees what to correct.
 VEK_API bool TryGetAmount(Control const& edit, Decimal& amount, AmountFault& fault);
 VEK_API bool TryGetAmount(Control const& edit, Decimal& amount);
+
+/// The same for a date in German notation, which TryParseGerman reads: 5.3.2024.
+VEK_API bool TryGetDate(Control const& edit, DateTime& date, DateTextFault& fault);
+VEK_API bool TryGetDate(Control const& edit, DateTime& date);
 
 } // namespace Vek::Framework::Utilities::UI

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
-#include <commdlg.h>
 #include <cderr.h>
+#include <commdlg.h>
 
 namespace Vek::Framework::Utilities::UI
 {

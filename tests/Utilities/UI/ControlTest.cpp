@@ -220,6 +220,15 @@ TEST(EditInput, SelectsTheFirstBadCharacter)
                 EXPECT_EQ(to, row.to);
                 EXPECT_EQ(amount, 7);
             }
+            DateTime date = DateTime::FromComponents(2024, 3, 5, 0, 0, 0);
+            DateTime const before = date;
+            edit.SetText(L"31.2.2024");
+            EXPECT_FALSE(UI::TryGetDate(edit, date));
+            EXPECT_EQ(LOWORD(SendMessageW(edit.GetHandle(), EM_GETSEL, 0, 0)), 0) << "no such day";
+            EXPECT_TRUE(date == before);
+            edit.SetText(L"5.3.2024");
+            EXPECT_TRUE(UI::TryGetDate(edit, date));
+            EXPECT_TRUE(date == before);
             edit.SetText(L"-1.234,50");
             EXPECT_TRUE(UI::TryGetAmount(edit, amount));
             EXPECT_EQ(amount.ToString(L',', {}), L"-1234,50");
