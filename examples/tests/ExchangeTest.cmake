@@ -68,7 +68,7 @@ endforeach()
 # File names and a filter beyond every 8-bit code page. The locale is one that the machine has: without, Wine refuses such
 # names.
 set(ENV{LC_ALL} C.UTF-8)
-set(name "Umsatz € ž Ω")
+set(name "Umsatz € ž Ω 😀")
 configure_file(${data}/statement.csv "${WORK_FOLDER}/${name}.csv" COPYONLY)
 run_program("${name}.csv" "text == \"Genau 100 €, nicht mehr\"" "${name}.xml" "${name} neu.csv")
 require_success()

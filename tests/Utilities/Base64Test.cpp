@@ -58,63 +58,37 @@ std::vector<unsigned char> MakeBytes(std::size_t size, std::mt19937& random)
     return bytes;
 }
 
-// Group by group: too little at a time for anything but the plain way.
-std::wstring EncodeByGroups(std::vector<unsigned char> const& bytes)
-{
-    std::wstring text;
-    for (std::size_t at = 0; at < bytes.size(); at += 3)
-        text += Base64::Encode(bytes.data() + at, std::min<std::size_t>(3, bytes.size() - at));
-    return text;
-}
-
-std::string DecodeByGroups(std::wstring const& text)
-{
-    std::string bytes;
-    for (std::size_t at = 0; at < text.size(); at += 4)
-        bytes += Decoded(text.substr(at, 4));
-    return bytes;
-}
-
 } // namespace
 
 TEST(Base64, BytesThereAndBack)
 {
     std::mt19937 random(20240229);
+    std::vector<std::size_t> sizes = { 767, 768, 769, 1536, 65'534, 100'000 };
     for (std::size_t size = 0; size < 200; ++size)
+        sizes.push_back(size);
+    for (std::size_t const size : sizes)
     {
         std::vector<unsigned char> const bytes = MakeBytes(size, random);
-        std::wstring const text = Base64::Encode(bytes.data(), size);
-        ASSERT_EQ(EncodeBitByBit(bytes), text) << size;
-        ASSERT_EQ(std::string(bytes.begin(), bytes.end()), Decoded(text)) << size;
-        ASSERT_EQ(text, Base64::Encode(*Base64::Decode(text)));
+        std::string expected(bytes.begin(), bytes.end());
+        std::wstring text = Base64::Encode(bytes.data(), size);
+        ASSERT_TRUE(EncodeBitByBit(bytes) == text) << size;
+        ASSERT_TRUE(expected == Decoded(text)) << size;
+        if (size % 3 != 0 || size == 0)
+            continue;
+        std::size_t const filler = random() % size / 3; // a group from which the plain way goes on
+        text.replace(4 * filler, 4, L"==BN");
+        expected.replace(3 * filler, 3, "\0\0M", 3);
+        ASSERT_TRUE(expected == Decoded(text)) << size;
     }
-    EXPECT_EQ(L"TWE=", Base64::Encode(reinterpret_cast<unsigned char const*>("Ma"), 2));
+    EXPECT_EQ(L"TWE=", Base64::Encode(*Base64::Decode(L"TWE=")));
     EXPECT_EQ(L"", Base64::Encode(nullptr, 0));
     EXPECT_THROW(Base64::Encode(nullptr, 1), Vek::NullPointerException);
-}
-
-TEST(Base64, LongTextsAsGroupByGroup)
-{
-    std::mt19937 random(20240229);
-    for (std::size_t const size : { 767U, 768U, 769U, 1536U, 65'534U, 100'000U })
-    {
-        std::vector<unsigned char> const bytes = MakeBytes(size, random);
-        std::wstring text = Base64::Encode(bytes.data(), size);
-        ASSERT_EQ(EncodeByGroups(bytes), text) << size;
-        ASSERT_EQ(DecodeByGroups(text), Decoded(text)) << size;
-        text[random() % (size - 4)] = L'='; // the plain way goes on from here
-        text.resize(text.size() - 4);
-        std::wstring const first = text.substr(0, text.find(L'=') / 4 * 4);
-        std::string const decoded = Decoded(text);
-        ASSERT_EQ(DecodeByGroups(first), decoded.substr(0, first.size() / 4 * 3)) << size;
-        ASSERT_EQ(DecodeByGroups(text.substr(first.size() + 4)), decoded.substr(first.size() / 4 * 3 + 3)) << size;
-    }
 }
 
 TEST(Base64, FindsAForeignUnitAnywhere)
 {
     std::mt19937 random(20240229);
-    std::wstring const text = EncodeByGroups(MakeBytes(90, random));
+    std::wstring const text = EncodeBitByBit(MakeBytes(90, random));
     std::vector<unsigned> foreign = { 0, '-', '_', ' ', 0x7F, 0x80, 0xC1, 0x141, 0x7FFF, 0x8041, 0xFF41, 0xFFFF };
     if (c_hasWideElements)
         foreign.insert(foreign.end(), { 0x10041, 0x410000, 0x7FFFFF41, 0x80000041, 0xFFFFFF41, 0xFFFFFFFF });
@@ -133,7 +107,6 @@ TEST(Base64, RefusesWhatIsNone)
     EXPECT_EQ("size must be multiple of 4", MessageOf(L"====="));
     EXPECT_EQ("too many filler symbols (=)", MessageOf(L"T==="));
     EXPECT_EQ("too many filler symbols (=)", MessageOf(L"===="));
-    EXPECT_EQ(std::string("\0\0M", 3), Decoded(L"==BN")) << "a filler within the text counts as 0";
     EXPECT_EQ("M", Decoded(L"TR==")) << "spare bits are not looked at";
     std::string const symbols = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/=";
     for (unsigned unit = 0; unit < 0x200; ++unit)

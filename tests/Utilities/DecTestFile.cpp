@@ -70,28 +70,12 @@ rounding ToRounding(std::string const& name)
     return found->mode;
 }
 
-void ChangeSetting(decContext& context, std::string const& name, std::string const& value)
-{
-    if (name == "rounding:")
-        context.round = ToRounding(ToLower(value));
-    else if (name == "precision:")
-        context.digits = std::stoi(value);
-    else if (name == "maxexponent:")
-        context.emax = std::stoi(value);
-    else if (name == "minexponent:")
-        context.emin = std::stoi(value);
-    else if (name == "clamp:")
-        context.clamp = static_cast<std::uint8_t>(std::stoi(value));
-    else if (name != "version:" && name != "extended:" && name != "dectest:")
-        throw std::runtime_error("unknown setting " + name);
-}
-
-DecTestCase ToCase(std::vector<std::string> const& words, decContext const& context)
+DecTestCase ToCase(std::vector<std::string> const& words, rounding mode)
 {
     auto const arrow = std::find(words.begin() + 2, words.end(), "->");
     if (words.end() - arrow < 2)
         throw std::runtime_error("no result in " + words[0]);
-    return { words[0], ToLower(words[1]), { words.begin() + 2, arrow }, arrow[1], context };
+    return { words[0], ToLower(words[1]), { words.begin() + 2, arrow }, arrow[1], mode };
 }
 
 } // namespace
@@ -101,18 +85,16 @@ std::vector<DecTestCase> ReadDecTestFile(std::filesystem::path const& path)
     std::ifstream file(path);
     if (!file)
         throw std::runtime_error("cannot read " + path.string());
-    decContext context;
-    decContextDefault(&context, DEC_INIT_BASE);
-    context.traps = 0;
+    rounding mode = DEC_ROUND_HALF_UP;
     std::vector<DecTestCase> cases;
     for (std::string line; std::getline(file, line);)
     {
         std::vector<std::string> const words = SplitWords(line);
-        if (words.size() == 2 && words[0].ends_with(':'))
-            ChangeSetting(context, ToLower(words[0]), words[1]);
-        else if (words.size() > 2)
-            cases.push_back(ToCase(words, context));
-        else if (!words.empty())
+        if (words.size() > 2)
+            cases.push_back(ToCase(words, mode));
+        else if (words.size() == 2 && ToLower(words[0]) == "rounding:")
+            mode = ToRounding(ToLower(words[1]));
+        else if (!words.empty() && !words[0].ends_with(':'))
             throw std::runtime_error("no case: " + line);
     }
     return cases;

@@ -46,10 +46,8 @@ TEST(Decimal, Construction)
     Row const rows[] = {
         { s_zero, "0", "before any code runs" },
         { Decimal::Zero(), "0", "the shared one" },
-        { INT_MIN, "-2147483648", "whose magnitude is no int" },
         { LLONG_MIN, "-9223372036854775808", "nor a 64-bit one" },
         { ULLONG_MAX, "18446744073709551615", "above the signed ones" },
-        { Decimal(12345, -2), "123.45", "fraction digits" },
         { Decimal(LLONG_MIN, 6112), "-9.2233720368547758080E+6130", "folded to more zeros" },
         { Decimal(1, 6144), "1.000000000000000000000000000000000E+6144", "as many as there is room for" },
         { Decimal(-1, 6145), "-Infinity", "and no more" },
@@ -104,11 +102,9 @@ TEST(Decimal, RoundAtTheEndsOfItsArguments)
         char const* why;
     };
     Row const rows[] = {
-        { "1250", -2, RoundMode::HalfAwayFromZero, "1.3E+3", "hundreds" },
         { "0.1", -6111, RoundMode::AwayFromZero, "1E+6111", "the greatest exponent" },
         { "0.1", -6112, RoundMode::AwayFromZero, "1.0E+6112", "folded" },
         { "0.1", -6145, RoundMode::AwayFromZero, "NaN", "one that no number has" },
-        { "0", 6176, RoundMode::TowardZero, "0E-6176", "the least exponent" },
         { "0", 6177, RoundMode::TowardZero, "NaN", "one that no number has" },
         { "1", INT_MAX, RoundMode::TowardZero, "NaN", "any count" },
         { "1", INT_MIN, RoundMode::TowardZero, "NaN", "whose negative is no int" },
@@ -131,13 +127,10 @@ TEST(Decimal, IntegersWrapOnlyAt64Bits)
         char const* why;
     };
     Row const rows[] = {
-        { "-2147483648.4", INT_MIN, INT_MIN, "the last that fits" },
         { "2147483647.5", 2147483648, 0, "rounds out of 32 bits" },
         { "18446744073709551621", 5, 0, "2^64 + 5" },
         { "9999999999999999999999999999999999", 4003012203950112767, 0, "34 digits modulo 2^64" },
-        { "1E+34", 0, 0, "35 digits" },
         { "NaN123", 0, 0, "a payload is no number" },
-        { "-Infinity", 0, 0, "nor has an Infinity any digits" },
     };
     for (Row const& row : rows)
     {

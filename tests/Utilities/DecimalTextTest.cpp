@@ -64,26 +64,14 @@ TEST(DecimalText, FromString)
         { L"1,5", "1.5", "the separator" },
         { L"1.5", "NaN", "a full stop is another character" },
         { L"+,50", "0.50", "nothing before it" },
-        { L"-5,", "-5", "nothing behind it" },
-        { L"1,2,3", "NaN", "only one" },
-        { L",", "NaN", "no digit" },
         { L"1.234,5", "NaN", "grouping" },
         { L"", "NaN", "nothing" },
-        { L" 1", "NaN", "a blank before" },
-        { L"1 ", "NaN", "a blank behind" },
         { L"1\0"s, "NaN", "a zero unit behind" },
-        { L"-+1", "NaN", "two signs" },
         { L"\x0661\xFF11", "NaN", "other scripts' digits" },
-        { L"1,5e-3", "0.0015", "an exponent" },
-        { L"1e", "NaN", "that has no digits" },
         { L"1e1,5", "NaN", "that is no whole number" },
-        { L"e5", "NaN", "nothing but an exponent" },
         { L"1e99999999999999999999", "Infinity", "longer than any integer" },
         { L"-1e-99999999999999999999", "-0E-6176", "longer than any integer" },
-        { L"0,0001e00000000000000000003", "0.1", "zeros before it" },
         { L"-iNf", "-Infinity", "short" },
-        { L"INFINITY", "Infinity", "long" },
-        { L"infinit", "NaN", "neither" },
         { L"\x0131nf", "NaN", "an i without its dot" },
         { L"-SNaN012", "-sNaN12", "payload" },
         { L"nan" + wideDigits33, "NaN" + digits33, "the longest payload" },
@@ -127,11 +115,8 @@ TEST(DecimalText, ToString)
         char const* why;
     };
     Row const rows[] = {
-        { "0E+2", L',', {}, L"000", "as many zeros as the exponent asks for" },
         { "-0.00", L',', {}, L"0,00", "a zero has no sign" },
         { "-Infinity", L',', CodePoint(L'.'), L"-Infinity", "words are not grouped" },
-        { "-NaN1234567", L',', CodePoint(L'.'), L"-NaN1234567", "nor are payloads" },
-        { "-sNaN", L',', {}, L"-sNaN", "no payload" },
         { "1234.5", pair, CodePoint(L'\x00A0'),
           L"1\x00A0"
           L"234\xD83D\xDE00"

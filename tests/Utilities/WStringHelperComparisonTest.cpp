@@ -84,6 +84,17 @@ TEST(WStringHelperComparison, AgreesWithThePlainRuleOnRandomTexts)
     }
 }
 
+TEST(WStringHelperComparison, BlocksAnswerAsSingleUnits)
+{
+    for (unsigned unit = 1; unit < 0x300; ++unit)
+    {
+        wchar_t const one = static_cast<wchar_t>(unit);
+        wchar_t const other = static_cast<wchar_t>(unit ^ 0x20U);
+        bool const isEqual = WStringHelper::EqualsIgnoreCase(std::wstring(1, one), std::wstring(1, other));
+        EXPECT_EQ(isEqual, WStringHelper::EqualsIgnoreCase(std::wstring(8, one), std::wstring(8, other))) << unit;
+    }
+}
+
 TEST(WStringHelperComparison, ElementsAboveTheUnitsEqualOnlyThemselvesAndSortLast)
 {
     if (!c_hasWideElements)
