@@ -82,6 +82,7 @@ TEST(CodePoint, FromTexts)
         EXPECT_THROW(CodePoint{ text }, Vek::ArgumentException);
         EXPECT_THROW(CodePoint{ text.c_str() }, Vek::ArgumentException);
     }
+    EXPECT_THROW(CodePoint(L"\0"), Vek::ArgumentException);
     EXPECT_THROW(CodePoint(static_cast<wchar_t const*>(nullptr)), Vek::NullPointerException);
     EXPECT_THROW(CodePoint(pair).GetAsSingleWChar(), Vek::InvalidStateException);
     std::wstring appended = L"x";

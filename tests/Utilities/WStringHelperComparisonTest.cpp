@@ -81,7 +81,8 @@ TEST(WStringHelperComparison, AgreesWithThePlainRuleOnRandomTexts)
         ASSERT_EQ(CompareNaively(longer.substr(0, b.size()), b) == 0, WStringHelper::StartsWithIgnoreCase(longer, b));
         std::wstring const end = (b + a).substr(a.size());
         ASSERT_EQ(CompareNaively(end, b) == 0, WStringHelper::EndsWithIgnoreCase(b + a, b));
-        ASSERT_FALSE(WStringHelper::StartsWithIgnoreCase(a, a + L'x') || WStringHelper::EndsWithIgnoreCase(a, L'x' + a));
+        ASSERT_FALSE(WStringHelper::StartsWithIgnoreCase(a, a + L'x') ||
+                     WStringHelper::EndsWithIgnoreCase(a, L'x' + a));
     }
 }
 
