@@ -32,6 +32,7 @@ struct OurDates
 {
     using Point = DateTime;
     using Components = DateTimeComponentInfo;
+    using Text = std::wstring;
 
     static Point FromTicks(unsigned long long ticks) { return DateTime::FromTicks(ticks); }
     static unsigned long long ToTicks(Point const& point) { return point.GetTicks(); }
@@ -39,8 +40,8 @@ struct OurDates
     static Point Join(Components const& components) { return DateTime::FromComponents(components); }
     static Duration MakeMonths(int months) { return Duration::CreateRelative(months, Duration::Months); }
     static Point AddMonths(Point const& point, Duration const& months) { return point + months; }
-    static std::wstring Format(Point const& point) { return FormatGerman(point); }
-    static Point Parse(std::wstring const& text)
+    static Text Format(Point const& point) { return FormatGerman(point); }
+    static Point Parse(Text const& text)
     {
         Point point;
         DateTextFault fault;
@@ -140,13 +141,15 @@ struct HinnantDate
 
 struct HinnantDates : ChronoDates<HinnantDate>
 {
-    static std::wstring Format(Point const& point) { return date::format(L"%d.%m.%Y %H:%M", point); }
+    using Text = std::string;
 
-    static Point Parse(std::wstring const& text)
+    static Text Format(Point const& point) { return date::format("%d.%m.%Y %H:%M", point); }
+
+    static Point Parse(Text const& text)
     {
         Point point;
-        std::wistringstream stream(text);
-        stream >> date::parse(L"%d.%m.%Y %H:%M", point);
+        std::istringstream stream(text);
+        stream >> date::parse("%d.%m.%Y %H:%M", point);
         return stream ? point : Point();
     }
 };
@@ -241,6 +244,16 @@ void RegisterSteps(std::string const& contestant)
     }
 }
 
+/// Our text as the contestant's: the peer reads and writes bytes.
+template <class Dates>
+typename Dates::Text ToText(std::wstring const& text)
+{
+    typename Dates::Text result(text.size(), ' ');
+    for (std::size_t i = 0; i < text.size(); ++i)
+        result[i] = static_cast<typename Dates::Text::value_type>(text[i]);
+    return result;
+}
+
 template <class Dates>
 void RegisterTexts(std::string const& contestant)
 {
@@ -250,12 +263,13 @@ void RegisterTexts(std::string const& contestant)
         "DateFormatGerman/" + contestant,
         MakeAll(count, [](unsigned long long ticks) { return Dates::FromTicks(ticks); }),
         [](Point const& point) { return Dates::Format(point); },
-        [](std::wstring const& result, unsigned long long ticks)
-        { return result == OurDates::Format(OurDates::FromTicks(ticks)); });
+        [](auto const& result, unsigned long long ticks)
+        { return ToText<Dates>(OurDates::Format(OurDates::FromTicks(ticks))) == result; });
     Register(
         "DateParseGerman/" + contestant,
-        MakeAll(count, [](unsigned long long ticks) { return OurDates::Format(OurDates::FromTicks(ticks)); }),
-        [](std::wstring const& text) { return Dates::Parse(text); },
+        MakeAll(count,
+                [](unsigned long long ticks) { return ToText<Dates>(OurDates::Format(OurDates::FromTicks(ticks))); }),
+        [](typename Dates::Text const& text) { return Dates::Parse(text); },
         [](Point result, unsigned long long ticks)
         { return Dates::ToTicks(result) == ticks / 600'000'000 * 600'000'000; });
 }

@@ -85,7 +85,7 @@ constexpr ShortDate GetShortDate(std::uint32_t day)
     auto const dayOfYear = static_cast<std::uint32_t>(years) / 2939745 / 4;   // [0, 365]
     std::uint32_t const months = dayOfYear * 2141 + 197913;                   // in units of 2^-16
     std::uint32_t const marchMonth = months >> 16U;                           // [3, 14]
-    std::uint32_t const isNextYear = dayOfYear >= 306 ? 1 : 0;                // from 1 January on
+    std::uint32_t const isNextYear = (12 - marchMonth) >> 31U;                // from 1 January on
     return { century * 100 + yearOfCentury + isNextYear, marchMonth - 12 * isNextYear, (months & 0xFFFFU) / 2141 + 1 };
 }
 
