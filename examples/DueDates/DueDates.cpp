@@ -28,8 +28,8 @@ VekDateEx ToBankwerktag(VekDateEx const& date)
     return VekDateEnv().GetNextBankwerktag(date, 0);
 }
 
-// The product is exact, with at most 11 + 6 + 6 digits, and 34 digits of the quotient tell it from any half cent that it
-// is not: what counts is rounded once.
+// The product is exact, with at most 11 + 6 + 6 digits, and 34 digits of the quotient tell it from any half cent that
+// it is not: what counts is rounded once.
 Decimal GetInterest(Decimal const& amount, Decimal const& yearlyPercent, int days)
 {
     return RoundToCents(amount * yearlyPercent * days / (100 * Zinsjahr(c_method)));
