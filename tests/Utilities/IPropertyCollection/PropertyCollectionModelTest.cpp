@@ -1,0 +1,260 @@
+// Random operations on a factory and on a plain restatement of its rules; everything is compared after each.
+
+#include "HookedProperty.h"
+#include "PlainFactory.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+
+using namespace Vek::Framework::Utilities::IPropertyCollection::Native;
+
+namespace
+{
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr unsigned int c_runs = 500;
+#else
+constexpr unsigned int c_runs = 5000;
+#endif
+constexpr unsigned int c_operations = 200;
+constexpr std::size_t c_mostCollections = 12;
+
+class ModelRun
+{
+public:
+    explicit ModelRun(unsigned int seed) : m_random(seed) {}
+
+    void Step()
+    {
+        unsigned int const operation = m_plain.all.size() >= c_mostCollections ? 9 + Pick(2) : Pick(16);
+        switch (operation)
+        {
+        case 6:
+            return SetFlags();
+        case 7:
+        case 8:
+            return Rename();
+        case 9:
+            return CleanUp();
+        case 10:
+            return Reset();
+        case 11:
+            return ChangeObservers();
+        case 12:
+            return AddKind();
+        case 13:
+            return EditRegistered();
+        default:
+            return Obtain();
+        }
+    }
+
+    bool IsSame()
+    {
+        EXPECT_EQ(m_plain.trace, m_trace);
+        EXPECT_EQ(m_expected, m_answer);
+        EXPECT_EQ(m_plain.all.size(), m_factory.GetPropertyCollectionCount());
+        for (std::size_t index = 0; index < m_plain.all.size() && !testing::Test::HasFailure(); ++index)
+        {
+            PlainCollection const& plain = m_plain.all[index];
+            PropertyCollection const& real = m_factory.GetChangeablePropertyCollectionByIndex(index);
+            EXPECT_EQ(plain.id, real.GetId());
+            EXPECT_EQ(plain.name, real.GetTemplateName());
+            EXPECT_EQ(plain.isOverriden, real.IsOverriden());
+            EXPECT_EQ(plain.isDeletable, real.IsDeletable());
+            EXPECT_EQ(ValuesOf(plain), Values(real));
+        }
+        return !testing::Test::HasFailure();
+    }
+
+    std::string operations;
+
+private:
+    static std::string ValuesOf(PlainCollection const& plain)
+    {
+        std::string text;
+        for (auto const& [kind, value] : plain.values)
+            text += (text.empty() ? "" : " ") + std::to_string(kind) + ':' + std::to_string(value);
+        return text;
+    }
+
+    unsigned int Pick(unsigned int count) { return static_cast<unsigned int>(m_random() % count); }
+    std::wstring PickName() { return std::array{ L"", L"a", L"b", L"standard" }[Pick(4)]; }
+    std::size_t PickIndex() { return Pick(static_cast<unsigned int>(m_plain.all.size())); }
+    void Note(std::string const& text) { operations += text + '\n'; }
+
+    template <class Action>
+    void Answer(Action const& action)
+    {
+        try
+        {
+            m_answer = action();
+        }
+        catch (std::exception const& error)
+        {
+            m_answer = error.what();
+        }
+    }
+
+    /// An edited collection: new, from a registered one, or of a factory whose kinds come in another order.
+    std::unique_ptr<PropertyCollection> MakeSource()
+    {
+        unsigned int const origin = Pick(4);
+        std::unique_ptr<PropertyCollection> source =
+            origin == 0 ? m_foreign.Create()
+            : origin == 1
+                ? std::make_unique<PropertyCollection>(m_factory.GetChangeablePropertyCollectionByIndex(PickIndex()))
+                : m_factory.Create();
+        source->ForEachProperty(
+            [this](Property& property)
+            {
+                if (Pick(3) == 0)
+                    static_cast<HookedProperty&>(property).value = static_cast<int>(Pick(3));
+            });
+        if (origin != 1 || Pick(2) == 0)
+            source->SetTemplateName(PickName());
+        source->SetIsOverriden(Pick(6) == 0);
+        source->SetDeletable(Pick(4) != 0);
+        return source;
+    }
+
+    static PlainCollection PlainOf(PropertyCollection const& real)
+    {
+        PlainCollection plain{ real.GetId(), real.GetTemplateName(), real.IsOverriden(), real.IsDeletable(), {} };
+        real.ForEachProperty([&](Property const& property)
+                             { plain.values.emplace_back(property.GetId(), ValueOf(real, property.GetId())); });
+        return plain;
+    }
+
+    void Obtain()
+    {
+        auto const source = MakeSource();
+        unsigned int const id = Pick(3) == 0 ? Pick(16) : PropertyCollection::c_no_id;
+        PlainCollection const plain = PlainOf(*source);
+        Note("obtain " + std::to_string(id) + " '" + NameOf(*source) + "' " + ValuesOf(plain));
+        m_expected = m_plain.Obtain(plain, id);
+        Answer([&] { return std::to_string(m_factory.ObtainPropertyCollection(*source, id).GetId()); });
+    }
+
+    void SetFlags()
+    {
+        std::size_t const index = PickIndex();
+        m_plain.all[index].isOverriden = Pick(2) == 0;
+        m_plain.all[index].isDeletable = Pick(2) == 0;
+        Note("flags " + std::to_string(index));
+        PropertyCollection& real = m_factory.GetChangeablePropertyCollectionByIndex(index);
+        real.SetIsOverriden(m_plain.all[index].isOverriden);
+        real.SetDeletable(m_plain.all[index].isDeletable);
+    }
+
+    void Rename()
+    {
+        std::wstring const from = PickName(), to = PickName();
+        bool const isConversion = Pick(3) == 0;
+        Note("rename '" + std::string(from.begin(), from.end()) + "' '" + std::string(to.begin(), to.end()) + "'");
+        m_expected = isConversion ? m_plain.SetName(from, {}, false) : m_plain.Rename(from, to);
+        Answer(
+            [&]
+            {
+                if (isConversion)
+                    m_factory.ConvertIntoNonTemplatePropertyCollection(from);
+                else
+                    m_factory.RenameTemplatePropertyCollection(from, to);
+                return std::string();
+            });
+    }
+
+    void CleanUp()
+    {
+        unsigned int const kept = Pick(4);
+        bool const keepTemplates = Pick(2) == 0, includeNonDeletable = Pick(2) == 0;
+        Note("clean up " + std::to_string(kept));
+        m_plain.CleanUp(kept, keepTemplates, includeNonDeletable);
+        m_factory.CleanUp([=](auto& collection) { return collection.GetId() % 3 == kept; }, keepTemplates,
+                          includeNonDeletable);
+    }
+
+    void Reset()
+    {
+        bool const keepTemplates = Pick(2) == 0, includeNonDeletable = Pick(2) == 0;
+        Note("reset");
+        m_plain.Reset(keepTemplates, includeNonDeletable);
+        m_factory.Reset(keepTemplates, includeNonDeletable);
+    }
+
+    void ChangeObservers()
+    {
+        std::size_t const index = Pick(3);
+        char const name = "ABC"[index];
+        Note(std::string("observer ") + name);
+        std::size_t const at = m_plain.observers.find(name);
+        if (at != std::string::npos && Pick(2) == 0)
+        {
+            m_plain.observers.erase(at, 1);
+            m_factory.UnregisterObserver(m_observers[index]);
+            return;
+        }
+        if (at == std::string::npos)
+            m_plain.observers += name;
+        m_factory.RegisterObserver(m_observers[index]);
+    }
+
+    void AddKind()
+    {
+        if (m_kinds == 4)
+            return;
+        unsigned int const kind = ++m_kinds;
+        Note("kind " + std::to_string(kind));
+        bool const isThere = m_plain.all[0].Find(kind) != nullptr; // an assignment has brought it
+        m_expected = isThere ? "ArgumentException" : "";
+        for (PlainCollection& plain : m_plain.all)
+            if (!isThere && plain.Find(kind) == nullptr)
+                plain.values.emplace_back(kind, static_cast<int>(kind) * 10);
+        Answer(
+            [&]
+            {
+                PropertyCollectionFactoryAccess(m_factory).AddStandardProperty(kind);
+                return std::string();
+            });
+    }
+
+    void EditRegistered()
+    {
+        std::size_t const index = PickIndex();
+        if (m_plain.all[index].values.empty())
+            return;
+        auto& [kind, value] =
+            m_plain.all[index].values[Pick(static_cast<unsigned int>(m_plain.all[index].values.size()))];
+        value = static_cast<int>(Pick(3));
+        Note("edit " + std::to_string(index));
+        ValueOf(m_factory.GetChangeablePropertyCollectionByIndex(index), kind) = value;
+    }
+
+    std::mt19937 m_random;
+    HookedFactory m_factory{ { 1, 2, 3, 4 }, 4 };
+    HookedFactory m_foreign{ 4, 2 };
+    unsigned int m_kinds = 0; // that are standard properties
+    std::string m_trace;
+    TracingObserver m_observers[3] = { TracingObserver(m_trace, "A"), TracingObserver(m_trace, "B"),
+                                       TracingObserver(m_trace, "C") };
+    PlainFactory m_plain;
+    std::string m_expected;
+    std::string m_answer;
+};
+
+} // namespace
+
+TEST(PropertyCollectionModel, RandomOperationsAgreeWithThePlainRules)
+{
+    for (unsigned int seed = 1; seed <= c_runs; ++seed)
+    {
+        ModelRun run(seed);
+        for (unsigned int step = 0; step < c_operations; ++step)
+        {
+            run.Step();
+            ASSERT_TRUE(run.IsSame()) << "seed " << seed << '\n' << run.operations;
+        }
+    }
+}

@@ -1,0 +1,173 @@
+#include "HookedProperty.h"
+
+#include <Exceptions/ArgumentException.h>
+#include <Exceptions/InvalidStateException.h>
+#include <Utilities/IPropertyCollection/PropertyCollectionExceptions.h>
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+using namespace Vek;
+using namespace Vek::Framework::Utilities::IPropertyCollection::Native;
+
+// Exact texts: programs and their logs compare them.
+TEST(PropertyCollectionExceptions, TextsAndValues)
+{
+    EXPECT_STREQ("Illegal format id!", IllegalPropertyCollectionIdException(42).what());
+    EXPECT_EQ(42u, IllegalPropertyCollectionIdException(42).GetId());
+    EXPECT_STREQ("Illegal type! (abc)", IllegalTypeException("abc").what());
+    EXPECT_STREQ("Illegal value! (\344)", IllegalValueException(L"\u00e4").what());
+    EXPECT_EQ(L"\u00e4", IllegalValueException(L"\u00e4").GetValue());
+    EXPECT_STREQ("Unknown template! (a)", UnknownTemplateException(L"a").what());
+    EXPECT_STREQ("Empty template name!", EmptyTemplateNameException().what());
+    EXPECT_STREQ("Illegal template name! (x)", IllegalTemplateNameException(L"x").what());
+    EXPECT_STREQ("Property collection cannot be modified because it is overridden.",
+                 PropertyCollectionCannotBeModifiedBecauseItIsOverriddenException().what());
+    try
+    {
+        throw IllegalTemplateNameException(L"x");
+    }
+    catch (UserException const& error)
+    {
+        EXPECT_STREQ("Illegal template name! (x)", error.what());
+    }
+}
+
+TEST(PropertyCollection, AssignmentAddsAndChangesAndNeverRemoves)
+{
+    HookedFactory factory({ 1, 2, 3 });
+    HookedFactory other({ 1, 2 });
+    HookedFactory third({ 2, 3, 1 }, 1);
+    PropertyCollection const& source = other.Obtain(L"", 100);
+    PropertyCollection const& target = third.ObtainPropertyCollection(*third.Make(L"t", 5), 7);
+    EXPECT_EQ("2:5 3:6", Values(target));
+
+    third.ObtainPropertyCollection(source, 7);
+    EXPECT_EQ("2:101 3:6 1:100", Values(target));
+    EXPECT_EQ(&target, &target.GetProperty(1).GetPropertyCollection());
+    EXPECT_EQ(L"", target.GetTemplateName());
+    EXPECT_EQ(7u, target.GetId());
+
+    PropertyCollection unknown(*factory.Make(L"", 1));
+    EXPECT_THROW(other.ObtainPropertyCollection(unknown, 0), IllegalPropertyCollectionIdException);
+    EXPECT_EQ("1:10 2:20", Values(other.GetStdPropertyCollection()));
+    EXPECT_EQ(L"standard", other.GetStdPropertyCollection().GetTemplateName());
+}
+
+TEST(PropertyCollection, FlagsOfCopiesAndAssignments)
+{
+    HookedFactory factory({ 1 });
+    auto const source = factory.Make(L"t", 1);
+    source->SetIsOverriden(true);
+    source->SetDeletable(false);
+    PropertyCollection const copy(*source);
+    EXPECT_FALSE(copy.IsOverriden());
+    EXPECT_TRUE(copy.IsDeletable());
+    EXPECT_EQ(L"t", copy.GetTemplateName());
+
+    PropertyCollection& target = factory.GetChangeablePropertyCollection(factory.Obtain(L"", 9).GetId());
+    factory.ObtainPropertyCollection(*source, target.GetId());
+    EXPECT_FALSE(target.IsDeletable());
+    EXPECT_TRUE(target.IsOverriden());
+    factory.ObtainPropertyCollection(copy, target.GetId());
+    EXPECT_FALSE(target.IsDeletable()); // assignment never sets it
+    EXPECT_FALSE(target.IsOverriden());
+}
+
+TEST(PropertyCollection, ComparisonIsOneSidedAndLooksAtIdsAndNames)
+{
+    HookedFactory factory({ 1, 2 });
+    HookedFactory empty({});
+    auto const a = factory.Make(L"t", 1);
+    auto const b = factory.Make(L"t", 1);
+    EXPECT_TRUE(*a == *b);
+    EXPECT_TRUE(a->ArePropertiesEqual(*empty.Create()));
+    EXPECT_FALSE(empty.Create()->ArePropertiesEqual(*a)); // what is absent is not equal
+
+    PropertyCollection const& five = factory.ObtainPropertyCollection(*a, 5);
+    PropertyCollection const& seven = factory.ObtainPropertyCollection(*factory.Make(L"x", 1), 7);
+    EXPECT_TRUE(*a == five); // an unregistered one matches any id
+    EXPECT_FALSE(*a == seven);
+    factory.GetChangeablePropertyCollection(7).SetTemplateName(L"t");
+    EXPECT_FALSE(five == seven);
+    EXPECT_TRUE(*a == seven);
+    ValueOf(*a, 2) = 0;
+    EXPECT_FALSE(*a == seven);
+
+    // Orders that differ, and both ways to find a property.
+    HookedFactory reversed({ 2, 1 });
+    auto const c = reversed.Make(L"", 2);
+    ValueOf(*c, 1) = 1;
+    EXPECT_TRUE(five.ArePropertiesEqual(*c));
+    EXPECT_TRUE(c->ArePropertiesEqual(five));
+}
+
+TEST(PropertyCollection, AbsentIdsAndLostCollectionsAreTold)
+{
+    std::shared_ptr<Property> kept;
+    {
+        HookedFactory factory({ 1 });
+        EXPECT_EQ(L"10", factory.GetStdPropertyCollection().GetUserText(1));
+        EXPECT_THROW(factory.GetStdPropertyCollection().GetProperty(2), IllegalPropertyCollectionIdException);
+        EXPECT_THROW(factory.GetStdPropertyCollection().GetUserText(2), IllegalPropertyCollectionIdException);
+        kept = HookedKind(1).CreateProperty();
+        EXPECT_THROW(kept->GetPropertyCollection(), InvalidStateException);
+
+        struct Keeping : HookedKind
+        {
+            explicit Keeping(std::shared_ptr<Property> given) : HookedKind(3), property(std::move(given)) {}
+            std::shared_ptr<Property> CreateProperty() const override { return property; }
+            std::shared_ptr<Property> property;
+        };
+        static HookedKind const kind(3);
+        kept = kind.CreateProperty();
+        PropertyCollectionFactoryAccess access(factory);
+        access.AddPropertyInfo(std::make_unique<Keeping>(kept));
+        access.AddStandardProperty(3);
+        EXPECT_TRUE(kept->GetPropertyCollection().IsStdPropertyCollection());
+        EXPECT_THROW(factory.Create(), InvalidStateException); // the one property cannot be in two collections
+        EXPECT_THROW(*kept = factory.GetStdPropertyCollection().GetProperty(1), ArgumentException);
+    }
+    EXPECT_THROW(kept->GetPropertyCollection(), InvalidStateException);
+}
+
+// Whichever call of a kind or a property throws, the collection is as before, whether the property was there or not.
+TEST(PropertyCollection, AssignmentThatThrowsChangesNothing)
+{
+    for (std::string const hook : { "clone", "create" })
+        for (int failing = 1;; ++failing)
+        {
+            SCOPED_TRACE(hook + std::to_string(failing));
+            HookedFactory factory({ 1, 2, 3, 5 });
+            HookedFactory other({ 1, 3, 2, 5 }, 1);
+            std::string trace;
+            TracingObserver observer(trace);
+            PropertyCollection const& target = other.ObtainPropertyCollection(*other.Make(L"t", 7), 3);
+            other.RegisterObserver(observer);
+            auto const source = factory.Make(L"new", 100);
+
+            int calls = 0;
+            bool hasThrown = false;
+            g_hooks[hook] = [&]
+            {
+                if (++calls == failing)
+                    throw std::runtime_error("refused");
+            };
+            try
+            {
+                other.ObtainPropertyCollection(*source, 3);
+            }
+            catch (std::runtime_error const&)
+            {
+                hasThrown = true;
+            }
+            g_hooks.clear();
+            EXPECT_EQ(hasThrown ? "1:7 3:8 2:9" : "1:100 3:102 2:101 5:103", Values(target));
+            EXPECT_EQ(hasThrown ? L"t" : L"new", target.GetTemplateName());
+            EXPECT_EQ(hasThrown ? "" : "=3 ", trace);
+            if (!hasThrown)
+                break;
+            ASSERT_LT(failing, 50);
+        }
+}
