@@ -21,6 +21,7 @@ allow()
 allow Exceptions
 allow Utilities Exceptions Platform
 allow SysBase Utilities Exceptions Platform
+allow ICommandProcessor Exceptions Platform
 allow IParser Utilities Exceptions Platform
 allow IXMLStreamer IParser Utilities Exceptions Platform
 allow Platform Exceptions

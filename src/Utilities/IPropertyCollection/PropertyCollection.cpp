@@ -10,6 +10,8 @@
 namespace Vek::Framework::Utilities::IPropertyCollection::Native
 {
 
+unsigned int const PropertyCollection::c_no_id; // defined here, or no host could take its address from a DLL
+
 PropertyCollection::PropertyCollection(Internal::FactoryState& factory, std::wstring templateName) noexcept
     : m_factory(factory),
       m_templateName(std::move(templateName))

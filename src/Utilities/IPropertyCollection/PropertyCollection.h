@@ -36,7 +36,7 @@ class VEK_API PropertyCollection
 {
 public:
     /// The id of a collection that no factory holds.
-    static constexpr unsigned int c_no_id = 0xFFFFFFFF;
+    static unsigned int const c_no_id = 0xFFFFFFFF;
 
     /// Keeps id and template name, is not overridden, and deletable.
     /// Throws IllegalPropertyCollectionIdException for a property whose kind the factory does not know,

@@ -13,6 +13,8 @@
 namespace Vek::Framework::Utilities::IPropertyCollection::Native
 {
 
+unsigned int const PropertyCollectionFactory::c_standard_property_collection_id; // as PropertyCollection::c_no_id
+
 PropertyCollectionFactory::PropertyCollectionFactory(std::wstring const& name)
     : m_state(std::make_unique<Internal::FactoryState>(*this, name))
 {

@@ -34,7 +34,7 @@ class PropertyCollectionFactoryObserver;
 class VEK_API PropertyCollectionFactory
 {
 public:
-    static constexpr unsigned int c_standard_property_collection_id = 0;
+    static unsigned int const c_standard_property_collection_id = 0;
 
     /// Makes the standard collection; `name` is its template name.
     explicit PropertyCollectionFactory(std::wstring const& name);

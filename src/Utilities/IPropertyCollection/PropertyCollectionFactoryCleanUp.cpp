@@ -42,10 +42,7 @@ void PropertyCollectionFactory::CleanUpWhere(std::function<bool(PropertyCollecti
     }
     for (; !refused.empty(); refused.pop_back())
         if (refused.back().collection->m_registration == PropertyCollection::Registration::Held)
-        {
             Remove(*refused.back().collection, refused.back().index);
-            call.ReleaseRemoved();
-        }
 }
 
 void PropertyCollectionFactory::Remove(PropertyCollection& collection, std::size_t index)

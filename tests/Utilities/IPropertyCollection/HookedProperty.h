@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace Vek::Framework::Utilities::IPropertyCollection::Native
 {
@@ -16,8 +17,10 @@ namespace Vek::Framework::Utilities::IPropertyCollection::Native
 /// Called by name from inside every virtual operation of the kinds and properties below.
 inline std::map<std::string, std::function<void()>> g_hooks;
 
-inline void CallHook(std::string const& name)
+inline void CallHook(char const* name)
 {
+    if (g_hooks.empty())
+        return;
     auto const hook = g_hooks.find(name);
     if (hook != g_hooks.end() && hook->second)
         std::function<void()>(hook->second)(); // a copy: the hook may remove itself

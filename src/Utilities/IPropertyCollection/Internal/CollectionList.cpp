@@ -73,7 +73,8 @@ PropertyCollection& CollectionList::Append(std::unique_ptr<PropertyCollection> c
     return appended;
 }
 
-std::unique_ptr<PropertyCollection> CollectionList::Take(PropertyCollection const& collection, std::size_t index) noexcept
+std::unique_ptr<PropertyCollection> CollectionList::Take(PropertyCollection const& collection,
+                                                         std::size_t index) noexcept
 {
     index = std::min(index, GetSize() - 1);
     while (&(*this)[index] != &collection)

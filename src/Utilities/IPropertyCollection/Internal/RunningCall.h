@@ -17,15 +17,10 @@ public:
     RunningCall& operator=(RunningCall const&) = delete;
     ~RunningCall()
     {
-        ReleaseRemoved();
-        --m_factory.runningCalls;
-    }
-
-    /// Lets go of what was removed, if no other call runs. The properties that die may call the factory themselves.
-    void ReleaseRemoved() const
-    {
+        // The properties that die may call the factory themselves.
         while (m_factory.runningCalls == 1 && !m_factory.removed.empty())
             std::vector<std::unique_ptr<PropertyCollection>> const dying = std::exchange(m_factory.removed, {});
+        --m_factory.runningCalls;
     }
 
 private:

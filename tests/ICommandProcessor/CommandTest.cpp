@@ -1,0 +1,84 @@
+#include <Exceptions/ArgumentException.h>
+#include <Exceptions/InvalidStateException.h>
+#include <Exceptions/NotImplementedException.h>
+#include <ICommandProcessor/CommandCreatorRegistry.h>
+#include <ICommandProcessor/CommandSupplier.h>
+#include <ICommandProcessor/LambdaCommandCreator.h>
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+using namespace Vek;
+using namespace Vek::Framework::ICommandProcessor::Native;
+
+namespace
+{
+
+struct Print : Command
+{
+    Print() : Command(5) {}
+    CommandResult Execute() override { return CommandResult::Error(L"out of paper"); }
+};
+
+struct Counted : LambdaCommandCreator
+{
+    Counted(int id, std::string const& name, int& destroyed)
+        : LambdaCommandCreator(id, name, [] { return std::make_unique<Print>(); }),
+          count(destroyed)
+    {
+    }
+    ~Counted() override { ++count; }
+    int& count;
+};
+
+} // namespace
+
+TEST(CommandCreatorRegistry, FirstNumberAndFirstNameStay)
+{
+    int destroyed = 0, id = -1;
+    CommandCreatorRegistry registry;
+    EXPECT_TRUE(registry.RegisterCommandCreator(std::make_unique<Counted>(5, "print", destroyed)));
+    EXPECT_FALSE(registry.RegisterCommandCreator(std::make_unique<Counted>(5, "other", destroyed)));
+    EXPECT_EQ(1, destroyed);
+    EXPECT_FALSE(registry.TryFindCommandId("other", id));
+    for (int other = 100; other > 6; --other)
+        registry.RegisterCommandCreator(std::make_unique<Counted>(other, "print", destroyed));
+    EXPECT_FALSE(registry.TryFindCommandId("Print", id));
+    EXPECT_EQ(-1, id);
+    EXPECT_TRUE(registry.TryFindCommandId("print", id));
+    EXPECT_EQ(5, id);
+    EXPECT_THROW(registry.RegisterCommandCreator(nullptr), ArgumentException);
+    try
+    {
+        registry.GetCommandCreator(6);
+        ADD_FAILURE();
+    }
+    catch (std::out_of_range const& error)
+    {
+        EXPECT_STREQ("invalid unordered_map<K, T> key", error.what());
+    }
+    CommandResult const result = registry.GetCommandCreator(id)()->Execute();
+    EXPECT_FALSE(result.IsSuccess());
+    EXPECT_EQ(L"out of paper", result.GetErrorMessage());
+}
+
+TEST(Command, WhatIsNotOverriddenIsToldSo)
+{
+    struct Plain : Command
+    {
+        Plain() : Command(1) {}
+    };
+    struct Supplier : CommandSupplier
+    {
+        using CommandSupplier::RestoreNewState;
+        using CommandSupplier::RestoreOldState;
+    };
+    EXPECT_THROW(Plain().Execute(), NotImplementedException);
+    EXPECT_THROW(Supplier().RestoreNewState(), NotImplementedException);
+    EXPECT_THROW(Supplier().RestoreOldState(), NotImplementedException);
+    EXPECT_THROW(Supplier().GetCommandController(), InvalidStateException);
+    EXPECT_THROW(LambdaCommandCreator(1, "", {})(), std::bad_function_call);
+    EXPECT_EQ(&CommandResult::Success(), &CommandResult::Success());
+    EXPECT_TRUE(CommandResult::Success().IsSuccess());
+}
