@@ -52,7 +52,7 @@ TEST(CommandHistory, RandomStepsAgreeWithAListOfStates)
         constexpr std::size_t c_never = 1000;
         for (int step = 0; step < 100; ++step)
         {
-            unsigned int const operation = random() % 5;
+            auto const operation = random() % 5;
             if (operation <= 1)
             {
                 bool const isBoth = random() % 2 == 0;
