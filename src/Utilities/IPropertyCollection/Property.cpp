@@ -42,6 +42,11 @@ PropertyCollection& Property::GetPropertyCollection() const
     return *m_collection;
 }
 
+PropertyCollection* Property::FindPropertyCollection() const noexcept
+{
+    return m_collection;
+}
+
 std::wstring const& Property::GetPropertyName() const
 {
     return GetPropertyInfo().GetName();

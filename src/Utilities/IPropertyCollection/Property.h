@@ -52,6 +52,9 @@ public:
 protected:
     explicit Property(unsigned int id) noexcept;
 
+    /// Null when no collection holds it.
+    PropertyCollection* FindPropertyCollection() const noexcept;
+
     /// Copies the id. A derived class copies its value, throws IllegalTypeException for a class that it cannot copy,
     /// and calls this.
     virtual void OnClone(Property const& other);
