@@ -13,7 +13,7 @@ allow()
     local family=$1 allowed
     allowed=$(IFS='|'; echo "$*")
     report "$family may not include:" "$(
-        grep -rnE '^#include <(Exceptions|Utilities|SysBase|IParser|ICommandProcessor|IXMLStreamer|Platform)/' "$family" |
+        grep -rnE '^#include <(Exceptions|Utilities|SysBase|IParser|ICommandProcessor|IXMLStreamer|PropertyStore|Platform)/' "$family" |
             grep -vE "#include <($allowed)/"
     )"
 }
@@ -24,6 +24,7 @@ allow SysBase Utilities Exceptions Platform
 allow ICommandProcessor Exceptions Platform
 allow IParser Utilities Exceptions Platform
 allow IXMLStreamer IParser Utilities Exceptions Platform
+allow PropertyStore IXMLStreamer Utilities Exceptions Platform
 allow Platform Exceptions
 
 # The dialog helpers stand on top of Utilities, for Windows only.

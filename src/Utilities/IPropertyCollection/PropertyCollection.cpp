@@ -80,6 +80,11 @@ PropertyCollectionFactory& PropertyCollection::GetPropertyCollectionFactory() co
     return m_factory.factory;
 }
 
+bool PropertyCollection::HasProperty(unsigned int id) const noexcept
+{
+    return FindProperty(id) != nullptr;
+}
+
 Property& PropertyCollection::GetProperty(unsigned int id) const
 {
     Property* const property = FindProperty(id);

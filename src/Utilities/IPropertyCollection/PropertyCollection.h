@@ -64,6 +64,7 @@ public:
 
     PropertyCollectionFactory& GetPropertyCollectionFactory() const noexcept;
 
+    bool HasProperty(unsigned int id) const noexcept;
     /// Throws IllegalPropertyCollectionIdException when there is none.
     Property& GetProperty(unsigned int id) const;
     std::wstring GetUserText(unsigned int id) const;

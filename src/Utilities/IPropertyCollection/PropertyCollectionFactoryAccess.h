@@ -1,18 +1,20 @@
 #pragma once
 
+#include <Utilities/IPropertyCollection/PropertyCollection.h>
 #include <Utilities/IPropertyCollection/PropertyInfo.h>
 #include <VekApi.h>
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace Vek::Framework::Utilities::IPropertyCollection::Native
 {
 
 class PropertyCollectionFactory;
 
-/// Fills a factory: with the kinds of property, and with the properties of the standard collection. For the part of a
-/// program that owns the factory; after a change at run time, call NotifyFactoryChanged.
+/// Fills a factory: with the kinds of property, with the properties of the standard collection, or with all that a file
+/// had kept. For the part of a program that owns the factory; after a change at run time, call NotifyFactoryChanged.
 ///
 /// Lifetime: the factory must outlive it.
 class VEK_API PropertyCollectionFactoryAccess
@@ -35,7 +37,32 @@ public:
     /// In the order in which they were added; those that come meanwhile are not visited.
     void ForEachPropertyInfo(std::function<void(PropertyInfo const&)> action) const;
 
+    /// @name Restoring a factory from a file
+    /// @{
+
+    /// The number that the next collection gets; PropertyCollection::c_no_id when they have run out.
+    unsigned int GetNextId() const noexcept;
+
+    /// A collection with this id and no properties, not registered.
+    std::unique_ptr<PropertyCollection> CreateEmptyCollection(unsigned int id) const;
+
+    /// A new property of the kind, with its default value. Throws ArgumentException for a collection that is registered
+    /// or of another factory, and for a second property of a kind; otherwise as AddStandardProperty.
+    Property& AddProperty(PropertyCollection& collection, unsigned int id) const;
+
+    /// Puts the contents of the first one into the standard collection and registers the others behind it, with their
+    /// ids, names and flags. The next number is `nextId`, but greater than all ids. No observer is told.
+    /// Throws ArgumentException unless the first one, and it alone, has the id of the standard collection, all ids
+    /// differ, and none is registered or of another factory; InvalidStateException when the factory has more than its
+    /// standard collection. The factory is as before then, and when a property throws.
+    void RestoreCollections(std::vector<std::unique_ptr<PropertyCollection>> collections, unsigned int nextId);
+
+    /// @}
+
 private:
+    void RequireFree(PropertyCollection const& collection) const;
+    void RequireRestorable(std::vector<std::unique_ptr<PropertyCollection>> const& collections) const;
+
     PropertyCollectionFactory& m_factory;
 };
 

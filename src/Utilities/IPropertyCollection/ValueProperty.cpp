@@ -140,10 +140,14 @@ template class VEK_API ValuePropertyInfo<int>;
 template class VEK_API ValuePropertyInfo<long long>;
 template class VEK_API ValuePropertyInfo<std::wstring>;
 template class VEK_API ValuePropertyInfo<Decimal>;
+template class VEK_API ValuePropertyInfo<DateTime>;
+template class VEK_API ValuePropertyInfo<ColorBase<BGRAChannel>>;
 template class VEK_API ValueProperty<bool>;
 template class VEK_API ValueProperty<int>;
 template class VEK_API ValueProperty<long long>;
 template class VEK_API ValueProperty<std::wstring>;
 template class VEK_API ValueProperty<Decimal>;
+template class VEK_API ValueProperty<DateTime>;
+template class VEK_API ValueProperty<ColorBase<BGRAChannel>>;
 
 } // namespace Vek::Framework::Utilities::IPropertyCollection::Native

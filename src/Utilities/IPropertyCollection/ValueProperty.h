@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Utilities/ColorBase.h>
+#include <Utilities/DateTime.h>
 #include <Utilities/Decimal.h>
 #include <Utilities/IPropertyCollection/Property.h>
 #include <Utilities/IPropertyCollection/PropertyCollection.h>
@@ -99,11 +101,15 @@ extern template class VEK_API ValuePropertyInfo<int>;
 extern template class VEK_API ValuePropertyInfo<long long>;
 extern template class VEK_API ValuePropertyInfo<std::wstring>;
 extern template class VEK_API ValuePropertyInfo<Decimal>;
+extern template class VEK_API ValuePropertyInfo<DateTime>;
+extern template class VEK_API ValuePropertyInfo<ColorBase<BGRAChannel>>;
 extern template class VEK_API ValueProperty<bool>;
 extern template class VEK_API ValueProperty<int>;
 extern template class VEK_API ValueProperty<long long>;
 extern template class VEK_API ValueProperty<std::wstring>;
 extern template class VEK_API ValueProperty<Decimal>;
+extern template class VEK_API ValueProperty<DateTime>;
+extern template class VEK_API ValueProperty<ColorBase<BGRAChannel>>;
 #endif
 
 } // namespace Vek::Framework::Utilities::IPropertyCollection::Native
