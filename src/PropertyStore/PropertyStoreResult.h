@@ -30,10 +30,10 @@ struct PropertyStoreResult
     bool IsSuccess() const noexcept { return code == Ok; }
 
     Code code = Ok;
-    std::wstring text; ///< German, for the user; names what was refused
-    int line = -1;     ///< from 1; -1 where there is no place
-    int column = -1;   ///< from 1, in bytes
-    std::string path;  ///< the open elements: "/propertyStore/collection/property"
+    std::wstring text{}; ///< German, for the user; names what was refused
+    int line = -1;       ///< from 1; -1 where there is no place
+    int column = -1;     ///< from 1, in bytes
+    std::string path{};  ///< the open elements: "/propertyStore/collection/property"
 };
 
 } // namespace Vek::Framework::PropertyStore

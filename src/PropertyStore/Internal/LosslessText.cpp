@@ -1,5 +1,8 @@
 #include <PropertyStore/Internal/LosslessText.h>
 
+#include <Utilities/WStringHelper.h>
+
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <utility>
@@ -7,40 +10,20 @@
 namespace Vek::Framework::PropertyStore::Internal
 {
 
+using Utilities::WStringHelper;
+
 namespace
 {
 
-// The units of the bytes 80 to 9F; 0 where Windows-1252 has none.
-constexpr unsigned short c_units[32] = {
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, // 80
-    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,      // 88
-    0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, // 90
-    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178, // 98
-};
-
-bool TryEncode(unsigned long unit, char& byte)
+bool IsControl(wchar_t unit)
 {
-    bool const isItself = (unit >= 0x20 && unit < 0x7F && unit != '\\') || (unit >= 0xA0 && unit <= 0xFF);
-    unsigned long code = isItself ? unit : 0;
-    for (unsigned long index = 0; code == 0 && index < 32; ++index)
-        if (unit != 0 && c_units[index] == unit)
-            code = 0x80 + index;
-    byte = static_cast<char>(static_cast<unsigned char>(code));
-    return code != 0;
+    return unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
 }
 
-bool TryDecode(char byte, wchar_t& unit)
-{
-    auto const code = static_cast<unsigned char>(byte);
-    bool const isMapped = code >= 0x80 && code < 0xA0;
-    unit = static_cast<wchar_t>(isMapped ? c_units[code - 0x80] : code);
-    return unit != 0;
-}
-
-void AppendEscape(std::string& bytes, unsigned long unit)
+void AppendEscape(std::string& bytes, wchar_t unit)
 {
     char digits[16];
-    auto const end = std::to_chars(digits, digits + sizeof(digits), unit, 16).ptr;
+    auto const end = std::to_chars(digits, digits + sizeof(digits), static_cast<unsigned int>(unit), 16).ptr;
     bytes.append("\\{").append(digits, end).append("}");
 }
 
@@ -56,7 +39,7 @@ bool TryReadEscape(std::string const& bytes, std::size_t& at, wchar_t& unit)
     std::size_t const end = bytes.find('}', at);
     if (end == std::string::npos || bytes[at] != '{')
         return false;
-    unsigned long value = 0;
+    unsigned int value = 0;
     auto const [parsed, error] = std::from_chars(bytes.data() + at + 1, bytes.data() + end, value, 16);
     if (error != std::errc() || parsed != bytes.data() + end || value > 0xFFFF)
         return false;
@@ -70,16 +53,17 @@ bool TryReadEscape(std::string const& bytes, std::size_t& at, wchar_t& unit)
 std::string ToLosslessBytes(std::wstring const& text)
 {
     std::string bytes;
-    bytes.reserve(text.size());
+    std::string byte;
+    unsigned long long position = 0;
     for (std::size_t index = 0; index < text.size(); ++index)
     {
-        auto const unit = static_cast<unsigned long>(text[index]) & 0xFFFFFFFFU;
-        bool const isOuterBlank = unit == ' ' && (index == 0 || index + 1 == text.size());
-        char byte = 0;
-        if (unit == '\\')
+        wchar_t const unit = text[index];
+        bool const isOuterBlank = unit == L' ' && (index == 0 || index + 1 == text.size());
+        if (unit == L'\\')
             bytes.append("\\\\");
-        else if (!isOuterBlank && TryEncode(unit, byte))
-            bytes += byte;
+        else if (!isOuterBlank && !IsControl(unit) &&
+                 WStringHelper::TryGetWindows1252FromUTF16(std::wstring(1, unit), byte, position))
+            bytes.append(byte);
         else
             AppendEscape(bytes, unit);
     }
@@ -89,12 +73,15 @@ std::string ToLosslessBytes(std::wstring const& text)
 bool TryFromLosslessBytes(std::string const& bytes, std::wstring& text)
 {
     std::wstring read;
-    read.reserve(bytes.size());
     for (std::size_t at = 0; at < bytes.size();)
     {
-        char const byte = bytes[at++];
+        std::size_t const end = std::min(bytes.find('\\', at), bytes.size());
+        read.append(WStringHelper::GetUTF16FromWindows1252(bytes.substr(at, end - at)));
         wchar_t unit = 0;
-        if (byte == '\\' ? !TryReadEscape(bytes, at, unit) : !TryDecode(byte, unit))
+        at = end + 1;
+        if (end == bytes.size())
+            break;
+        if (!TryReadEscape(bytes, at, unit))
             return false;
         read += unit;
     }

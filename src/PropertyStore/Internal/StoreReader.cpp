@@ -4,6 +4,7 @@
 #include <PropertyStore/PropertyStore.h>
 #include <Utilities/IPropertyCollection/PropertyCollectionExceptions.h>
 #include <Utilities/IPropertyCollection/StoredProperty.h>
+#include <Utilities/WStringHelper.h>
 
 #include <charconv>
 #include <utility>
@@ -13,20 +14,12 @@ namespace Vek::Framework::PropertyStore::Internal
 
 using namespace IXMLStreamer::Native;
 using namespace Utilities::IPropertyCollection::Native;
+using Utilities::WStringHelper;
 
 namespace
 {
 
 constexpr unsigned int c_greatestNumber = 0xFFFFFFFF;
-
-/// Bytes of the document or of the reader's texts, as the user reads them.
-std::wstring ToText(std::string const& bytes)
-{
-    std::wstring text;
-    for (char const byte : bytes)
-        text += static_cast<wchar_t>(static_cast<unsigned char>(byte));
-    return text;
-}
 
 } // namespace
 
@@ -61,8 +54,11 @@ void StoreReader::Describe()
                     { return m_hasVersion || Fail(Code::UnknownVersion, L"Die Formatversion fehlt."); });
     RefuseOtherAttributes(root);
     DescribeCollection(root.CreateStructureElement("collection"));
-    m_streamer.SetOnUnknownElement(1, [this](std::string const& name)
-                                   { return Fail(Code::UnknownContent, L"Unbekanntes Element: " + ToText(name)); });
+    m_streamer.SetOnUnknownElement(
+        1,
+        [this](std::string const& name) {
+            return Fail(Code::UnknownContent, L"Unbekanntes Element: " + WStringHelper::GetUTF16FromWindows1252(name));
+        });
 }
 
 void StoreReader::DescribeCollection(XMLStructureElement& collection)
@@ -71,9 +67,11 @@ void StoreReader::DescribeCollection(XMLStructureElement& collection)
                                  [this](std::string const&, std::string const& value)
                                  { return ReadNumber(value, PropertyCollection::c_no_id - 1, m_id.emplace()); });
     collection.RegisterAttribute(1, "name",
-                                 [this](std::string const&, std::string const& value) {
+                                 [this](std::string const&, std::string const& value)
+                                 {
                                      return TryFromLosslessBytes(value, m_name) ||
-                                            Fail(Code::InvalidValue, L"Ung\u00fcltiger Name: " + ToText(value));
+                                            Fail(Code::InvalidValue, L"Ung\u00fcltiger Name: " +
+                                                                         WStringHelper::GetUTF16FromWindows1252(value));
                                  });
     RegisterFromVersion2(collection, "overridden",
                          [this](std::string const& value) { return ReadNumber(value, 1, m_isOverridden); });
@@ -107,7 +105,7 @@ void StoreReader::RefuseOtherAttributes(XMLElement& element)
 
 bool StoreReader::RefuseAttribute(std::string const& name)
 {
-    return Fail(Code::UnknownContent, L"Unbekanntes Attribut: " + ToText(name));
+    return Fail(Code::UnknownContent, L"Unbekanntes Attribut: " + WStringHelper::GetUTF16FromWindows1252(name));
 }
 
 // Version 1 until the attribute says otherwise; what is read from then on has the handlers of its version.
@@ -117,7 +115,8 @@ bool StoreReader::ChooseVersion(std::string const& value)
     if (!ReadNumber(value, c_greatestNumber, version))
         return false;
     if (version < 1 || version > PropertyStore::c_version)
-        return Fail(Code::UnknownVersion, L"Unbekannte Formatversion: " + ToText(value));
+        return Fail(Code::UnknownVersion,
+                    L"Unbekannte Formatversion: " + WStringHelper::GetUTF16FromWindows1252(value));
     m_hasVersion = true;
     m_streamer.SetVersion(version);
     return true;
@@ -165,7 +164,7 @@ bool StoreReader::ReadProperty(std::string const& content)
         return Fail(Code::DuplicateKind, L"Doppelte Eigenschaft: " + info->GetName());
     std::wstring text;
     if (!TryFromLosslessBytes(content, text))
-        return Fail(Code::InvalidValue, L"Ung\u00fcltiger Text: " + ToText(content));
+        return Fail(Code::InvalidValue, L"Ung\u00fcltiger Text: " + WStringHelper::GetUTF16FromWindows1252(content));
     return SetValue(kind, text);
 }
 
@@ -200,7 +199,7 @@ bool StoreReader::ReadNumber(std::string const& value, unsigned int greatest, un
     char const* const end = value.data() + value.size();
     auto const [parsed, error] = std::from_chars(value.data(), end, number);
     return (error == std::errc() && parsed == end && number <= greatest) ||
-           Fail(Code::InvalidNumber, L"Ung\u00fcltige Zahl: " + ToText(value));
+           Fail(Code::InvalidNumber, L"Ung\u00fcltige Zahl: " + WStringHelper::GetUTF16FromWindows1252(value));
 }
 
 PropertyStoreResult StoreReader::GetFailure() const
@@ -209,7 +208,7 @@ PropertyStoreResult StoreReader::GetFailure() const
     if (failure.code == PropertyStoreResult::Ok)
     {
         failure.code = PropertyStoreResult::InvalidDocument;
-        failure.text = ToText(m_streamer.GetError().GetDescription());
+        failure.text = WStringHelper::GetUTF16FromWindows1252(m_streamer.GetError().GetDescription());
     }
     failure.line = m_streamer.GetParserResult().line;
     failure.column = m_streamer.GetParserResult().column;
