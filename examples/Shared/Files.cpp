@@ -1,8 +1,10 @@
 #include "Files.h"
 
+#include <Utilities/FileReplacement.h>
 #include <Utilities/StreamHelper.h>
 #include <Utilities/WStringHelper.h>
 
+#include <sstream>
 #include <system_error>
 
 using namespace Vek::Framework::Utilities;
@@ -13,57 +15,20 @@ namespace Example
 namespace
 {
 
-// The first free name beside the target. One that is taken belongs to another run or was left there by one that was
-// interrupted; it stays.
-std::filesystem::path FindFreeName(std::filesystem::path const& target)
+char const* Explain(FileReplacementResult result)
 {
-    std::error_code error; // what cannot be asked for cannot be opened either
-    for (int number = 1; number < 1000; ++number)
+    switch (result)
     {
-        std::filesystem::path path = target;
-        path += ".";
-        path += std::to_string(number);
-        path += ".tmp";
-        if (!std::filesystem::exists(std::filesystem::symlink_status(path, error)))
-            return path;
+    case FileReplacementResult::TemporariesExist:
+        return " cannot be written: .1.tmp to .999.tmp stand in the way";
+    case FileReplacementResult::NotCreated:
+        return " cannot be written: its folder does not take a new file";
+    case FileReplacementResult::NotWritten:
+        return " cannot be written completely";
+    default:
+        return " cannot be replaced";
     }
-    throw DocumentError(FullNameOf(target) + ".1.tmp to .999.tmp stand in the way");
 }
-
-// A new file beside the target that vanishes unless it takes the target's place. It takes the place of a file only: a
-// device or a folder stays.
-class TemporaryFile
-{
-public:
-    explicit TemporaryFile(std::filesystem::path const& target) : m_target(target), m_path(FindFreeName(target))
-    {
-        std::error_code ignored; // what cannot be asked for cannot be opened either
-        if (std::filesystem::exists(m_target, ignored) && !std::filesystem::is_regular_file(m_target, ignored))
-            throw DocumentError(FullNameOf(m_target) + " cannot be replaced");
-    }
-    TemporaryFile(TemporaryFile const&) = delete;
-    TemporaryFile& operator=(TemporaryFile const&) = delete;
-
-    ~TemporaryFile()
-    {
-        std::error_code ignored; // the file may never have been made
-        std::filesystem::remove(m_path, ignored);
-    }
-
-    std::filesystem::path const& GetPath() const { return m_path; }
-
-    void ReplaceTarget() const
-    {
-        std::error_code error;
-        std::filesystem::rename(m_path, m_target, error);
-        if (error)
-            throw DocumentError(FullNameOf(m_target) + " cannot be replaced");
-    }
-
-private:
-    std::filesystem::path m_target;
-    std::filesystem::path m_path;
-};
 
 } // namespace
 
@@ -123,15 +88,12 @@ std::string ReadFile(std::filesystem::path const& path)
 
 void ReplaceFile(std::filesystem::path const& path, std::function<void(std::ostream&)> const& write)
 {
-    TemporaryFile const temporary(path);
-    std::ofstream stream(temporary.GetPath(), std::ios::binary);
-    if (!stream)
-        throw DocumentError(FullNameOf(path) + " cannot be written: its folder does not take a new file");
+    std::ostringstream stream;
     write(stream);
-    stream.close(); // a full disk shows here at the latest
-    if (!stream)
-        throw DocumentError(FullNameOf(path) + " cannot be written completely");
-    temporary.ReplaceTarget();
+    std::u16string const name = path.u16string();
+    FileReplacementResult const result = ReplaceFileContent({ name.begin(), name.end() }, stream.view());
+    if (result != FileReplacementResult::Replaced)
+        throw DocumentError(FullNameOf(path) + Explain(result));
 }
 
 } // namespace Example
