@@ -87,6 +87,7 @@ void Register(std::string const& name, int items, Work const& work)
 {
     auto const run = [=](benchmark::State& state)
     {
+        benchmark::DoNotOptimize(work()); // its values are made here
         for (auto _ : state)
         {
             auto const result = work();
@@ -98,16 +99,48 @@ void Register(std::string const& name, int items, Work const& work)
     benchmark::RegisterBenchmark(name.c_str(), run)->Unit(benchmark::kMillisecond);
 }
 
-template <class Set>
-void RegisterSet(std::string const& name, std::vector<int> const& scattered, std::vector<int> const& ascending,
-                 std::vector<int> const& sought)
+struct Values
 {
-    Register("IntRangeAddScattered/" + name, c_size, [=] { return MakeSet<Set>(scattered); });
-    Register("IntRangeAddAscending/" + name, c_size, [=] { return MakeSet<Set>(ascending); });
-    auto const set = MakeSet<Set>(scattered);
-    Register("IntRangeFind/" + name, c_size, [=] { return CountFound(set, sought); });
+    std::vector<int> scattered;
+    std::vector<int> ascending;
+    std::vector<int> sought; // half of them among the scattered ones
+
+    Values() : scattered(c_size), ascending(c_size)
+    {
+        std::mt19937 random(1);
+        for (int& value : scattered)
+            value = static_cast<int>(random());
+        for (int i = 0; i < c_size; ++i)
+            ascending[static_cast<std::size_t>(i)] = 2 * i;
+        sought = scattered;
+        for (std::size_t i = 0; i < sought.size(); i += 2)
+            sought[i] = static_cast<int>(random());
+        std::shuffle(sought.begin(), sought.end(), random);
+    }
+};
+
+/// Made when the first of these runs, so that the other benchmarks start without them.
+Values const& GetValues()
+{
+    static Values const s_values;
+    return s_values;
+}
+
+template <class Set>
+Set const& GetScatteredSet()
+{
+    static Set const s_set = MakeSet<Set>(GetValues().scattered);
+    return s_set;
+}
+
+template <class Set>
+void RegisterSet(std::string const& name)
+{
+    Register("IntRangeAddScattered/" + name, c_size, [] { return MakeSet<Set>(GetValues().scattered); });
+    Register("IntRangeAddAscending/" + name, c_size, [] { return MakeSet<Set>(GetValues().ascending); });
+    Register("IntRangeFind/" + name, c_size, [] { return CountFound(GetScatteredSet<Set>(), GetValues().sought); });
     if constexpr (!std::is_same_v<Set, BoostSet>) // it walks its intervals
-        Register("IntRangeWalk/" + name, c_size, [=] { return AddUp(set); });
+        Register("IntRangeWalk/" + name, c_size, [] { return AddUp(GetScatteredSet<Set>()); });
 }
 
 unsigned long long HashPlainly(ColorBase<BGRAChannel> const& color)
@@ -119,8 +152,12 @@ unsigned long long HashPlainly(ColorBase<BGRAChannel> const& color)
 }
 
 template <class Hash>
-void RegisterHash(std::string const& name, std::vector<ColorBase<BGRAChannel>> const& colors, Hash const& hash)
+void RegisterHash(std::string const& name, Hash const& hash)
 {
+    std::mt19937 random(1);
+    std::vector<ColorBase<BGRAChannel>> colors;
+    for (int i = 0; i < 4096; ++i)
+        colors.emplace_back(static_cast<int>(random()), 0, 0, 0);
     Register("ColorHash/" + name, static_cast<int>(colors.size()),
              [=]
              {
@@ -131,30 +168,16 @@ void RegisterHash(std::string const& name, std::vector<ColorBase<BGRAChannel>> c
              });
 }
 
-} // namespace
-
-[[maybe_unused]] static bool const s_isRegistered = []
+bool const c_isRegistered = []
 {
-    std::mt19937 random(1);
-    std::vector<int> scattered, ascending;
-    std::vector<ColorBase<BGRAChannel>> colors;
-    for (int i = 0; i < c_size; ++i)
-    {
-        scattered.push_back(static_cast<int>(random()));
-        ascending.push_back(2 * i);
-    }
-    for (int i = 0; i < 4096; ++i)
-        colors.emplace_back(scattered[static_cast<std::size_t>(i)], 0, 0, 0);
-    std::vector<int> sought = scattered; // half of them there
-    for (std::size_t i = 0; i < sought.size(); i += 2)
-        sought[i] = static_cast<int>(random());
-    std::shuffle(sought.begin(), sought.end(), random);
-    RegisterSet<IntRange>("ours", scattered, ascending, sought);
-    RegisterSet<std::set<int>>("std_set", scattered, ascending, sought);
-    RegisterSet<BoostSet>("boost_icl", scattered, ascending, sought);
-    RegisterHash("ours", colors, [](auto const& color) { return color.GetHashCode(); });
-    RegisterHash("plain_loop", colors, HashPlainly);
+    RegisterSet<IntRange>("ours");
+    RegisterSet<std::set<int>>("std_set");
+    RegisterSet<BoostSet>("boost_icl");
+    RegisterHash("ours", [](auto const& color) { return color.GetHashCode(); });
+    RegisterHash("plain_loop", HashPlainly);
     return true;
 }();
+
+} // namespace
 
 } // namespace Benchmarks

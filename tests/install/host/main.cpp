@@ -3,13 +3,18 @@
 
 #include <Exceptions/ArgumentException.h>
 #include <Exceptions/UserException.h>
+#include <Exceptions/Win32Exception.h>
 #include <IParser/Internal/KeyAlreadyInsertedException.h>
 #include <IParser/StateParser.h>
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLStreamer.h>
 #include <IXMLStreamer/XMLWriter.h>
 #include <SysBase/ExceptionHandler.h>
+#include <Utilities/UI/StackLayoutHelper.h>
 #include <Utilities/WStringHelper.h>
+#if defined(_WIN32)
+#    include <Utilities/UI/DialogBase.h>
+#endif
 
 #include <iostream>
 #include <sstream>
@@ -71,11 +76,40 @@ bool AreExceptionsCaughtByType()
            !VekSysBase::ExceptionHandler::ExecuteSafe([] { throw Vek::UserException("host"); }, L"", L"", L"");
 }
 
+#if defined(_WIN32)
+
+class Dialog : public Vek::Framework::Utilities::UI::DialogBase
+{
+public:
+    Dialog() : DialogBase(1, nullptr) {}
+};
+
+/// The host has no template of that number.
+bool CanTryADialog()
+{
+    return Throws<Vek::Win32Exception>([] { Dialog().Show(); });
+}
+
+#else
+
+bool CanTryADialog()
+{
+    return true;
+}
+
+#endif
+
+bool CanLayOut()
+{
+    Vek::Framework::Utilities::UI::StackLayoutHelper layout({ 10, 20 }, 100, 5);
+    return layout.GetNext(30).GetBottomY() == 50 && layout.GetNextY() == 55;
+}
+
 } // namespace
 
 int main()
 {
-    bool const isFine = Read(Write()) == "a<b" && AreExceptionsCaughtByType();
+    bool const isFine = Read(Write()) == "a<b" && AreExceptionsCaughtByType() && CanTryADialog() && CanLayOut();
     std::cout << (isFine ? "The installed package works\n" : "The installed package does not work\n");
     return isFine ? 0 : 1;
 }
