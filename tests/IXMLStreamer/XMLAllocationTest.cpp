@@ -9,12 +9,16 @@
 #include <sstream>
 #include <string>
 
-// Every allocation of an operation fails once. A program of its own, since it takes the place of the global allocation.
+#include <malloc.h>
+
+// What readers and writers allocate: every allocation of an operation fails once, and is given back. A program of its
+// own, since it takes the place of the global allocation.
 
 namespace
 {
 
 int s_allocationsLeft = -1; // negative: any number
+std::size_t s_bytesInUse = 0;
 
 } // namespace
 
@@ -23,17 +27,20 @@ void* operator new(std::size_t size)
     if (s_allocationsLeft == 0)
         throw std::bad_alloc();
     s_allocationsLeft -= s_allocationsLeft > 0 ? 1 : 0;
-    return std::malloc(size == 0 ? 1 : size);
+    void* const memory = std::malloc(size == 0 ? 1 : size);
+    s_bytesInUse += malloc_usable_size(memory);
+    return memory;
 }
 
 void operator delete(void* memory) noexcept
 {
+    s_bytesInUse -= malloc_usable_size(memory);
     std::free(memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept
 {
-    std::free(memory);
+    operator delete(memory);
 }
 
 namespace
@@ -112,4 +119,29 @@ TEST(XMLAllocation, AFailedRunOrRegistrationLeavesAReaderThatReads)
             EXPECT_TRUE(reader.ProcessSource(document)) << allocations;
         }
     }
+}
+
+TEST(XMLAllocation, WhatAGiantDocumentNeededIsGivenBack)
+{
+    std::string const giant(5'000'000, 'x');
+    std::string deep = "<x>";
+    std::string attributes;
+    for (int i = 0; i < 15; ++i)
+        deep += deep;
+    for (int i = 0; i < 20'000; ++i)
+        attributes += " a" + std::to_string(i) + "=\"\"";
+    for (std::string const& body :
+         { "<x a='" + giant + "'/>", "<b>" + giant + "</b>", "<x " + giant + "=''/>", "<" + giant + "/>", deep + "<b>",
+           "<b>&" + giant + ";</b>", "<x" + attributes + "/>" })
+        for (auto const syntax : { XMLStreamer::Lenient, XMLStreamer::Strict })
+        {
+            XMLStreamer reader;
+            reader.SetSyntax(syntax);
+            reader.CreateRootStructureElement("a").CreateContentElement("b");
+            reader.ProcessSource("<?xml version='1.0'?><a></a>");
+            std::size_t const before = s_bytesInUse;
+            reader.ProcessSource("<?xml version='1.0'?><a>" + body + "</a>");
+            reader.ProcessSource("<?xml version='1.0'?><a></a>"); // a path is kept until then
+            EXPECT_LT(s_bytesInUse, before + 100'000) << body.substr(0, 20);
+        }
 }
