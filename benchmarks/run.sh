@@ -7,7 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 require_packages g++ cmake ninja-build gdb-source pkg-config python3 libbenchmark-dev libexpat1-dev libxml2-dev \
     liborcus-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libicu-dev libutfcpp-dev qt6-base-dev \
     libmodpbase64-dev libfccp-dev libcsv-dev libboost-dev libintelrdfpmath-dev libquantlib0-dev \
-    libhowardhinnant-date-dev re2c flex
+    libhowardhinnant-date-dev libmicroprofile-dev libspdlog-dev re2c flex
 
 build=build/linux-release
 mkdir -p "$build"

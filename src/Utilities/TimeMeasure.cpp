@@ -19,7 +19,8 @@ char const* RequireName(char const* name)
 }
 
 /// The entry is there before the clock is read: looking it up is no part of the measure.
-TimeMeasureInfo* Begin(std::string_view name, long long& start)
+template <class Name>
+TimeMeasureInfo* Begin(Name const& name, long long& start)
 {
     TimeMeasureRegistry* const registry = TimeMeasureRegistry::GetInstance();
     if (registry == nullptr)
@@ -52,14 +53,14 @@ TimeMeasure::TimeMeasure(std::string const& name) : m_info(Begin(name, m_start))
 
 TimeMeasure::~TimeMeasure()
 {
-    TimeMeasureRegistry const* const registry = TimeMeasureRegistry::GetInstance();
+    TimeMeasureRegistry const* const registry = TimeMeasureRegistry::FindInstance();
     if (registry != nullptr && m_info != nullptr)
         End(*registry, *m_info, m_start);
 }
 
 TimeMeasureInfo const& TimeMeasure::GetMeasureInfo() const noexcept
 {
-    return m_info != nullptr && TimeMeasureRegistry::GetInstance() != nullptr ? *m_info : s_nowhere;
+    return m_info != nullptr && TimeMeasureRegistry::FindInstance() != nullptr ? *m_info : s_nowhere;
 }
 
 } // namespace Vek::Framework::Utilities

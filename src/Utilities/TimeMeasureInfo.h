@@ -14,7 +14,13 @@ class VEK_API TimeMeasureInfo
 public:
     constexpr TimeMeasureInfo() noexcept = default;
 
-    void AddMeasure(long long nanoseconds) noexcept;
+    constexpr void AddMeasure(long long nanoseconds) noexcept
+    {
+        m_last = nanoseconds;
+        m_total = static_cast<long long>(static_cast<unsigned long long>(m_total) +
+                                         static_cast<unsigned long long>(nanoseconds));
+        ++m_count;
+    }
 
     /// As freshly made.
     void Reset() noexcept;

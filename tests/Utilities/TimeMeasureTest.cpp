@@ -130,6 +130,19 @@ TEST(TimeMeasure, TellsNamesApartAndKeepsTheirOrderAndPlace)
     EXPECT_THROW(TimeMeasure(static_cast<char const*>(nullptr)), Vek::ArgumentException);
 }
 
+TEST(TimeMeasure, LooksAtTheTextAndNotWhereItStands)
+{
+    char buffer[] = "TimeMeasureTest.Buffer1";
+    TimeMeasureInfo const* const first = &TimeMeasure(buffer).GetMeasureInfo();
+    buffer[sizeof buffer - 2] = '2';
+    TimeMeasureInfo const* const second = &TimeMeasure(buffer).GetMeasureInfo();
+    EXPECT_NE(second, first);
+    EXPECT_EQ(&TimeMeasure("TimeMeasureTest.Buffer1").GetMeasureInfo(), first);
+    EXPECT_EQ(&TimeMeasure(std::string(buffer)).GetMeasureInfo(), second);
+    EXPECT_NE(&TimeMeasure(std::string(buffer, sizeof buffer)).GetMeasureInfo(), second) << "a 0 behind it";
+    EXPECT_EQ(&TimeMeasure(buffer).GetMeasureInfo(), second);
+}
+
 TEST(TimeMeasure, VisitorsSeeTheNamesThatTheyAdd)
 {
     int left = 100;

@@ -1,8 +1,8 @@
 #include <Utilities/Internal/TimeMeasureRegistry.h>
 
-#include <chrono>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 namespace Vek::Framework::Utilities
 {
@@ -10,7 +10,6 @@ namespace Vek::Framework::Utilities
 namespace
 {
 
-// Known before and after the registry's own life.
 constinit bool s_isUnloaded = false;
 
 template <class Word>
@@ -38,9 +37,7 @@ constexpr std::uint64_t Mix(std::uint64_t hash, std::uint64_t word) noexcept
     return product ^ product >> 32U;
 }
 
-} // namespace
-
-std::size_t TimeMeasureRegistry::NameHash::operator()(std::string_view name) const noexcept
+std::uint64_t GetHash(std::string_view name) noexcept
 {
     char const* at = name.data();
     std::size_t left = name.size();
@@ -50,41 +47,86 @@ std::size_t TimeMeasureRegistry::NameHash::operator()(std::string_view name) con
     return Mix(hash, LoadRest(at, left));
 }
 
-TimeMeasureRegistry* TimeMeasureRegistry::GetInstance()
+constexpr std::size_t c_firstSlots = 64;
+
+} // namespace
+
+constinit TimeMeasureRegistry* TimeMeasureRegistry::s_instance = nullptr;
+
+TimeMeasureRegistry::TimeMeasureRegistry() : m_slots(c_firstSlots)
+{
+}
+
+TimeMeasureRegistry* TimeMeasureRegistry::MakeInstance()
 {
     if (s_isUnloaded)
         return nullptr;
-    static TimeMeasureRegistry s_instance;
-    return &s_instance;
+    static TimeMeasureRegistry s_registry;
+    s_instance = &s_registry;
+    return s_instance;
 }
 
 TimeMeasureRegistry::~TimeMeasureRegistry()
 {
-    s_isUnloaded = true; // the clock is the caller's and may measure when it is destroyed
+    // First: the clock is the caller's and may measure when it is destroyed.
+    s_isUnloaded = true;
+    s_instance = nullptr;
 }
 
-TimeMeasureInfo& TimeMeasureRegistry::Get(std::string_view name)
+TimeMeasureInfo& TimeMeasureRegistry::Get(char const* name)
 {
-    auto const found = m_entries.find(name);
-    return found != m_entries.end() ? found->second.info : Make(name);
+    auto const address = reinterpret_cast<std::uintptr_t>(name);
+    Recent& recent = m_recent[(address ^ address >> 6U) % m_recent.size()];
+    if (recent.name != name || std::strcmp(name, recent.entry->name.c_str()) != 0)
+        recent = { name, &Find(name) }; // a name that is found so has no 0 in it
+    return recent.entry->info;
 }
 
-TimeMeasureInfo& TimeMeasureRegistry::Make(std::string_view name)
+TimeMeasureRegistry::Entry& TimeMeasureRegistry::Find(std::string_view name)
 {
-    Node& node = *m_entries.try_emplace(std::string(name)).first;
-    (m_last == nullptr ? m_first : m_last->second.next) = &node;
-    m_last = &node;
-    return node.second.info;
-}
-
-long long TimeMeasureRegistry::GetCurrentNanoSeconds() const
-{
-    if (m_timer != nullptr)
+    std::uint64_t const hash = GetHash(name);
+    std::size_t const mask = m_slots.size() - 1;
+    for (std::size_t at = hash & mask; m_slots[at].entry != nullptr; at = (at + 1) & mask)
     {
-        auto const timer = m_timer; // it may replace itself
-        return timer->GetCurrentNanoseconds();
+        if (m_slots[at].hash == hash && m_slots[at].entry->name == name)
+            return *m_slots[at].entry;
     }
-    return std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
+    return Make(name, hash);
+}
+
+TimeMeasureRegistry::Entry& TimeMeasureRegistry::Make(std::string_view name, std::uint64_t hash)
+{
+    if (2 * m_entries.size() >= m_slots.size())
+        Enlarge();
+    Entry& entry = m_entries.emplace_back(name);
+    FindPlace(m_slots, hash) = { hash, &entry };
+    return entry;
+}
+
+void TimeMeasureRegistry::Enlarge()
+{
+    std::vector<Slot> slots(2 * m_slots.size());
+    for (Slot const& slot : m_slots)
+    {
+        if (slot.entry != nullptr)
+            FindPlace(slots, slot.hash) = slot;
+    }
+    m_slots = std::move(slots);
+}
+
+/// A free one.
+TimeMeasureRegistry::Slot& TimeMeasureRegistry::FindPlace(std::vector<Slot>& slots, std::uint64_t hash) noexcept
+{
+    std::size_t at = hash & (slots.size() - 1);
+    while (slots[at].entry != nullptr)
+        at = (at + 1) & (slots.size() - 1);
+    return slots[at];
+}
+
+long long TimeMeasureRegistry::AskTimer() const
+{
+    auto const timer = m_timer; // it may replace itself
+    return timer->GetCurrentNanoseconds();
 }
 
 void TimeMeasureRegistry::SetTimer(std::shared_ptr<TimeMeasureTimer const> timer) noexcept
