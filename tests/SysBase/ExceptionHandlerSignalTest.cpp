@@ -179,6 +179,8 @@ TEST_F(ExceptionHandlerDeathTest, TheSystemsAnswerGetsTheFaultItself)
         Handle(SIGSEGV, SIG_DFL);
         UseGuard();
         pid_t const child = fork();
+        if (child < 0)
+            _exit(1); // else the signals below would go to everybody
         if (child == 0)
         {
             ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
