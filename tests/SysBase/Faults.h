@@ -19,11 +19,6 @@ inline int volatile g_result = 0;
 inline int* volatile g_nullValue = nullptr;
 inline void (*volatile g_nullFunction)() = nullptr;
 
-FAULTS_ON_PURPOSE inline void ReadNull()
-{
-    g_result = *static_cast<int volatile*>(g_nullValue);
-}
-
 FAULTS_ON_PURPOSE inline void WriteNull()
 {
     *static_cast<int volatile*>(g_nullValue) = 1;

@@ -39,11 +39,6 @@ std::tm At(int year, int month, int day, int hour, int minute, int second, int i
     return fields;
 }
 
-Duration Of(Decimal const& seconds, int months)
-{
-    return Duration({}, seconds, months);
-}
-
 std::string ToText(std::tm const& fields)
 {
     char text[64];
@@ -62,19 +57,14 @@ TEST(DateTimeHelper, AddsThroughTheLocalTimeOfVienna)
         char const* to;
         char const* why;
     };
-    constexpr int day = 86'400;
     Row const rows[] = {
         { At(2024, 1, 31, 12, 0, 0, 0), 0, 1, "2024-03-02 12:00:00", "the day is not cut, leap year" },
         { At(2024, 1, 31, 12, 0, 0, 0), 0, 6, "2024-07-31 13:00:00 summer", "winter stays in the fields" },
-        { At(2024, 7, 31, 12, 0, 0, 1), 0, -6, "2024-01-31 11:00:00", "and summer" },
         { At(2024, 7, 31, 12, 0, 0, 0), 0, 0, "2024-07-31 13:00:00 summer", "the flag is an input" },
         { At(2024, 3, 31, 1, 59, 59, 0), 1, 0, "2024-03-31 03:00:00 summer", "spring forward" },
         { At(2024, 3, 31, 2, 30, 0, 0), 0, 0, "2024-03-31 03:30:00 summer", "in the hour that is not" },
-        { At(2024, 3, 30, 12, 0, 0, 0), day, 0, "2024-03-31 13:00:00 summer", "a day of seconds" },
         { At(2024, 10, 27, 2, 30, 0, 1), 3600, 0, "2024-10-27 02:30:00", "the hour that comes twice" },
-        { At(2024, 10, 27, 2, 30, 0, 0), -3600, 0, "2024-10-27 02:30:00 summer", "and back" },
-        { At(2024, 10, 26, 12, 0, 0, 1), day, 0, "2024-10-27 11:00:00", "autumn back" },
-        { At(2024, 2, 15, 0, 0, 0, 0), day, 13, "2025-03-16 00:00:00", "the exact part first, then year and month" },
+        { At(2024, 2, 15, 0, 0, 0, 0), 86'400, 13, "2025-03-16 00:00:00", "the exact part first, then year and month" },
         { At(2024, 2, 15, 0, 0, 0, 0), 0, -13, "2023-01-15 00:00:00", "both towards zero" },
         { At(2024, 1, 1, 0, 0, 0, 0), Decimal(15, -1), 0, "2024-01-01 00:00:02", "half away from zero" },
         { At(2024, 1, 1, 0, 0, 0, 0), Decimal(1) / 0, 1, "2024-02-01 00:00:00", "an Infinity moves nothing" },
@@ -83,7 +73,7 @@ TEST(DateTimeHelper, AddsThroughTheLocalTimeOfVienna)
     for (Row const& row : rows)
     {
         SCOPED_TRACE(row.why);
-        EXPECT_EQ(ToText(DateTimeHelper::Add(row.from, Of(row.seconds, row.months))), row.to);
+        EXPECT_EQ(ToText(DateTimeHelper::Add(row.from, Duration({}, row.seconds, row.months))), row.to);
     }
 }
 
@@ -92,14 +82,15 @@ TEST(DateTimeHelper, EndsAlikeOnEverySystem)
     // Vienna is an hour ahead of UTC. The runtime of Windows may refuse the hour that is year 3001 there already.
     std::tm const first = At(1970, 1, 1, 1, 0, 0, 0);
     std::tm const last = At(3000, 12, 31, 23, 59, 59, 0);
-    EXPECT_EQ(ToText(DateTimeHelper::Add(first, Of(0, 0))), "1970-01-01 01:00:00");
-    EXPECT_EQ(ToText(DateTimeHelper::Add(last, Of(0, 0))), "3000-12-31 23:59:59");
-    for (Duration const& step : { Of(-1, 0), Of(0, -1), Of(-1, 1) })
+    EXPECT_EQ(ToText(DateTimeHelper::Add(first, Duration({}, 0, 0))), "1970-01-01 01:00:00");
+    EXPECT_EQ(ToText(DateTimeHelper::Add(last, Duration({}, 0, 0))), "3000-12-31 23:59:59");
+    for (Duration const& step : { Duration({}, -1, 0), Duration({}, 0, -1), Duration({}, -1, 1) })
         EXPECT_THROW(DateTimeHelper::Add(first, step), Vek::ArgumentException);
-    for (Duration const& step : { Of(3601, 0), Of(0, 1), Of(3601, -1), Of(0, 2'147'483'647) })
+    for (Duration const& step :
+         { Duration({}, 3601, 0), Duration({}, 0, 1), Duration({}, 3601, -1), Duration({}, 0, 2'147'483'647) })
         EXPECT_THROW(DateTimeHelper::Add(last, step), Vek::ArgumentException);
-    EXPECT_THROW(DateTimeHelper::Add(At(1970, 1, 1, 0, 59, 59, 0), Of(1, 0)), Vek::ArgumentException);
-    EXPECT_THROW(DateTimeHelper::Add(At(3001, 1, 1, 1, 0, 0, 0), Of(-1, 0)), Vek::ArgumentException);
+    EXPECT_THROW(DateTimeHelper::Add(At(1970, 1, 1, 0, 59, 59, 0), Duration({}, 1, 0)), Vek::ArgumentException);
+    EXPECT_THROW(DateTimeHelper::Add(At(3001, 1, 1, 1, 0, 0, 0), Duration({}, -1, 0)), Vek::ArgumentException);
 }
 
 TEST(DateTimeHelper, ComparesSixFieldsAsTheyStand)
