@@ -52,6 +52,7 @@ TEST(Duration, PartsAreKeptApart)
     D const extreme = D::CreateRelative(INT_MIN, D::Months);
     Row const rows[] = {
         { D::CreateRelative(2, D::Years), L"24 0" },
+        { D::CreateRelative(1, D::Hours), L"0 3600" },
         { D::CreateRelative(1.5_dec, D::Weeks), L"0 907200.0" },
         { D::CreateRelative(2, D::Minutes), L"0 120" },
         { D::CreateRelativeFromMonths(-1.5_dec), L"-1 0" },
