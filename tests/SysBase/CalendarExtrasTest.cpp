@@ -60,9 +60,8 @@ TEST(CalendarNames, Ends) // the example DueDates shows those between
 {
     EXPECT_TRUE(GetMonatsname(1) == L"J\u00E4nner" && GetMonatsname(12) == L"Dezember");
     EXPECT_TRUE(GetMonatsname(std::numeric_limits<int>::min()).empty() && GetMonatsname(13).empty());
-    EXPECT_TRUE(GetWochentagsname(static_cast<DayOfWeek>(7)).empty());
-    EXPECT_TRUE(GetWochentagskuerzel(static_cast<DayOfWeek>(-1)).empty());
-    EXPECT_TRUE(GetFeiertagName(static_cast<Feiertag>(14)).empty());
+    EXPECT_TRUE(GetWochentagsname(DayOfWeek(7)).empty() && GetWochentagskuerzel(DayOfWeek(-1)).empty());
+    EXPECT_TRUE(GetFeiertagName(Feiertag(14)).empty());
 }
 
 TEST(Kalenderwoche, EveryDayBothWays)
