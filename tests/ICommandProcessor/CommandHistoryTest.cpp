@@ -129,26 +129,17 @@ TEST(CommandHistory, MisuseIsTold)
         EXPECT_THROW(history.AddStep(L"", suppliers), ArgumentException);
 
     history.AddStep(L"step", { &a });
-    int refusals = 0;
     a.hook = [&]
     {
         other.Detach(foreign);
-        std::function<void()> const calls[] = {
-            [&] { history.Undo(); },      [&] { history.Redo(); },  [&] { history.AddStep(L"", { &a }); },
-            [&] { history.MarkSaved(); }, [&] { history.Clear(); }, [&] { history.Attach(foreign); }
-        };
-        for (auto const& call : calls)
-            try
-            {
-                call();
-            }
-            catch (InvalidStateException const&)
-            {
-                ++refusals;
-            }
+        EXPECT_THROW(history.Undo(), InvalidStateException);
+        EXPECT_THROW(history.Redo(), InvalidStateException);
+        EXPECT_THROW(history.AddStep(L"", { &a }), InvalidStateException);
+        EXPECT_THROW(history.MarkSaved(), InvalidStateException);
+        EXPECT_THROW(history.Clear(), InvalidStateException);
+        EXPECT_THROW(history.Attach(foreign), InvalidStateException);
     };
     history.Undo();
-    EXPECT_EQ(6, refusals);
     EXPECT_EQ(-1, a.state);
 }
 

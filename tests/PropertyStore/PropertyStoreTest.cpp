@@ -39,7 +39,7 @@ enum Kind : unsigned int
 
 struct Settings : PropertyCollectionFactory
 {
-    explicit Settings(unsigned int greatestKind = Color) : PropertyCollectionFactory(L"Kanzlei \u20ac")
+    Settings() : PropertyCollectionFactory(L"Kanzlei \u20ac")
     {
         PropertyCollectionFactoryAccess access(*this);
         access.AddPropertyInfo(std::make_unique<TextPropertyInfo>(Printer, L"Drucker", L"", L"Empfang"));
@@ -51,7 +51,7 @@ struct Settings : PropertyCollectionFactory
                                                                   DateTime::FromComponents(2024, 1, 31, 0, 0, 0)));
         access.AddPropertyInfo(
             std::make_unique<ColorPropertyInfo>(Color, L"Farbe", L"", ColorBase<BGRAChannel>(1, 2, 3, 255)));
-        for (unsigned int kind = Printer; kind <= greatestKind; ++kind)
+        for (unsigned int kind = Printer; kind <= Color; ++kind)
             access.AddStandardProperty(kind);
     }
 
@@ -126,7 +126,6 @@ TEST(PropertyStore, EverythingComesBack)
     PropertyStoreResult const result = Load(loaded, document);
     ASSERT_TRUE(result.IsSuccess()) << result.code << " in line " << result.line << ' ' << result.path;
     EXPECT_EQ(document, Save(loaded));
-    ASSERT_EQ(settings.GetPropertyCollectionCount(), loaded.GetPropertyCollectionCount());
     for (unsigned int index = 0; index < settings.GetPropertyCollectionCount(); ++index)
     {
         PropertyCollection const& a = settings.GetChangeablePropertyCollectionByIndex(index);
@@ -172,48 +171,39 @@ TEST(PropertyStore, BadDocumentsAreToldWithTheirPlace)
         char const* root; // attributes
         char const* content;
     };
-    char const* const in = "/propertyStore/collection";
-    char const* const standard = "<collection id='0' name='s'>\n";
-    std::string const twoOfOne = "<property kind='2'>1</property>\n<property kind='2'>1</property></collection>";
+    // "S" is a standard collection; a path is below "/propertyStore" unless it is "-".
     Row const rows[] = {
-        { Code::UnknownVersion, 2, "/propertyStore", "version='3'", "" },
-        { Code::UnknownVersion, 2, "/propertyStore", "version='0'", "" },
-        { Code::UnknownVersion, 2, "/propertyStore", "", "" },
-        { Code::InvalidNumber, 2, "/propertyStore", "version='x'", "" },
-        { Code::UnknownContent, 2, "/propertyStore", "version='1' nextId='3'", "" },
-        { Code::UnknownContent, 2, "/propertyStore", "version='2' other='3'", "" },
-        { Code::InvalidStandard, -1, "", "version='2'", "" },
-        { Code::InvalidStandard, 3, in, "version='2'", "<collection id='1'></collection>" },
-        { Code::InvalidStandard, 4, in, "version='1'", "<collection id='0'></collection>\n<collection id='0'>" },
-        { Code::DuplicateId, 5, in, "version='1'",
-          "<collection id='0'></collection>\n<collection id='7'/>\n<collection id='7'/>" },
-        { Code::MissingAttribute, 3, in, "version='1'", "<collection name='s'>" },
-        { Code::InvalidNumber, 3, in, "version='1'", "<collection id='4294967295'>" },
-        { Code::InvalidNumber, 3, in, "version='2'", "<collection id='0' overridden='2'>" },
-        { Code::UnknownContent, 3, in, "version='1'", "<collection id='0' overridden='1'>" },
-        { Code::UnknownContent, 3, in, "version='2'", "<collection id='0' extra='1'>" },
-        { Code::InvalidValue, 3, in, "version='2'", "<collection id='0' name='\\x'>" },
-        { Code::UnknownContent, 4, "/propertyStore/collection/other", "version='2'", "S<other/>" },
-        { Code::MissingAttribute, 4, "/propertyStore/collection/property", "version='2'", "S<property>1</property>" },
-        { Code::UnknownKind, 4, "/propertyStore/collection/property", "version='2'",
-          "S<property kind='9'>1</property>" },
-        { Code::UnknownKind, 4, "/propertyStore/collection/property", "version='1'",
-          "S<property kind='6'>#000000</property>" },
-        { Code::InvalidValue, 4, "/propertyStore/collection/property", "version='2'",
-          "S<property kind='2'>10</property>" },
-        { Code::InvalidValue, 4, "/propertyStore/collection/property", "version='2'",
-          "S<property kind='1'>\\{10000}</property>" },
-        { Code::InvalidValue, 4, "/propertyStore/collection/property", "version='2'",
-          "S<property kind='5'>2023-02-29</property>" },
-        { Code::DuplicateKind, 5, "/propertyStore/collection/property", "version='2'", "S2" },
+        { Code::UnknownVersion, 2, "", "version='3'", "" },
+        { Code::UnknownVersion, 2, "", "version='0'", "" },
+        { Code::UnknownVersion, 2, "", "", "" },
+        { Code::InvalidNumber, 2, "", "version='x'", "" },
+        { Code::UnknownContent, 2, "", "version='1' nextId='3'", "" },
+        { Code::InvalidStandard, -1, "-", "version='2'", "" },
+        { Code::InvalidStandard, 3, "/collection", "version='2'", "<collection id='1'></collection>" },
+        { Code::InvalidStandard, 4, "/collection", "version='1'", "S</collection><collection id='0'>" },
+        { Code::DuplicateId, 4, "/collection", "version='1'",
+          "S</collection><collection id='7'/><collection id='7'/>" },
+        { Code::MissingAttribute, 3, "/collection", "version='1'", "<collection name='s'>" },
+        { Code::InvalidNumber, 3, "/collection", "version='1'", "<collection id='4294967295'>" },
+        { Code::InvalidNumber, 3, "/collection", "version='2'", "<collection id='0' overridden='2'>" },
+        { Code::UnknownContent, 3, "/collection", "version='1'", "<collection id='0' overridden='1'>" },
+        { Code::UnknownContent, 3, "/collection", "version='2'", "<collection id='0' extra='1'>" },
+        { Code::InvalidValue, 3, "/collection", "version='2'", "<collection id='0' name='\\x'>" },
+        { Code::UnknownContent, 4, "/collection/other", "version='2'", "S<other/>" },
+        { Code::MissingAttribute, 4, "/collection/property", "version='2'", "S<property>1</property>" },
+        { Code::UnknownKind, 4, "/collection/property", "version='2'", "S<property kind='9'>1</property>" },
+        { Code::UnknownKind, 4, "/collection/property", "version='1'", "S<property kind='6'>#000000</property>" },
+        { Code::InvalidValue, 4, "/collection/property", "version='2'", "S<property kind='2'>10</property>" },
+        { Code::InvalidValue, 4, "/collection/property", "version='2'", "S<property kind='1'>\\{10000}</property>" },
+        { Code::InvalidValue, 4, "/collection/property", "version='2'", "S<property kind='5'>2023-02-29</property>" },
+        { Code::DuplicateKind, 5, "/collection/property", "version='2'",
+          "S<property kind='2'>1</property>\n<property kind='2'>1</property>" },
     };
     for (Row const& row : rows)
     {
         std::string content = row.content;
-        if (content == "S2")
-            content = standard + twoOfOne;
-        else if (content[0] == 'S')
-            content = standard + content.substr(1);
+        if (content[0] == 'S')
+            content.replace(0, 1, "<collection id='0' name='s'>\n");
         std::string const document =
             std::string("<?xml version='1.0'?>\n<propertyStore ") + row.root + ">\n" + content + "\n</propertyStore>";
         SCOPED_TRACE(document);
@@ -222,7 +212,7 @@ TEST(PropertyStore, BadDocumentsAreToldWithTheirPlace)
         PropertyStoreResult const result = Load(settings, document);
         EXPECT_EQ(row.code, result.code);
         EXPECT_EQ(row.line, result.line);
-        EXPECT_EQ(row.path, result.path);
+        EXPECT_EQ(row.path[0] == '-' ? "" : std::string("/propertyStore") + row.path, result.path);
         EXPECT_FALSE(result.text.empty());
         EXPECT_EQ(before, Save(settings));
     }

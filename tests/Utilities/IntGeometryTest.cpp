@@ -4,6 +4,7 @@
 #include <Utilities/GeometryHash.h>
 #include <Utilities/GeometryStreams.h>
 #include <Utilities/IntRectangleSets.h>
+#include <Utilities/UI/StackLayoutHelper.h>
 
 #include <gtest/gtest.h>
 
@@ -29,7 +30,7 @@ static_assert(IntPoint(1, 2) + IntPoint(3, 4) == IntPoint(4, 6) && IntPoint(1, 2
 static_assert(IntPoint(1, 2) != IntPoint(1, 3) && IntPoint::Zero() == IntPoint(0, 0));
 static_assert(IntSize(3, 9).GetMax({ 5, 1 }) == IntSize(5, 9) && IntSize(7, -7) / 2 == IntSize(3, -3));
 static_assert(IntSize(7, -7) * -2 == IntSize(-14, 14) && IntSize(3, 4).ToVector() == IntPoint(3, 4));
-static_assert(IntRectangle::FromPointAndSize(10, 20, 30, 40).Contains({ 40, 60 }));
+static_assert(IntRectangle::FromPointAndSize(10, 20, 30, 40) == IntRectangle::FromCornerPoints(10, 20, 40, 60));
 static_assert(Intersect(IntRectangle::Empty(), IntRectangle::Empty()).HasValue() && IntSize::Empty() == IntSize());
 
 TEST(IntGeometry, ArithmeticWrapsAround)
@@ -50,45 +51,16 @@ TEST(IntGeometry, ArithmeticWrapsAround)
 
 TEST(IntRectangle, KeepsItsCornersAndTruncatesTowardZero)
 {
-    struct Row
-    {
-        IntRectangle rectangle;
-        IntRectangle corners;
-        IntSize size;
-        IntPoint center;
-        char const* why;
-    };
-    Row const rows[] = {
-        { IntRectangle::FromPointAndSize(10, 20, 30, 40),
-          IntRectangle::FromCornerPoints(10, 20, 40, 60),
-          { 30, 40 },
-          { 25, 40 },
-          "right and bottom edge are not one more" },
-        { IntRectangle::FromCenterAndSize({ 10, 10 }, { 5, 5 }),
-          IntRectangle::FromCornerPoints(8, 8, 13, 13),
-          { 5, 5 },
-          { 10, 10 },
-          "the extra pixel is on the right" },
-        { IntRectangle::FromCenterAndSize({ -10, 0 }, { -5, 4 }),
-          IntRectangle::FromCornerPoints(-8, -2, -13, 2),
-          { -5, 4 },
-          { -10, 0 },
-          "halves of negative sizes are cut off too" },
-        { IntRectangle::FromCornerPoints({ 10, 10 }, { 0, 1 }),
-          IntRectangle::FromCornerPoints(10, 10, 0, 1),
-          { -10, -9 },
-          { 5, 6 },
-          "nothing puts the corners in order" },
-    };
-    for (Row const& row : rows)
-    {
-        SCOPED_TRACE(row.why);
-        EXPECT_EQ(row.rectangle, row.corners);
-        EXPECT_EQ(row.rectangle.GetSize(), row.size);
-        EXPECT_EQ(row.rectangle.GetCenter(), row.center);
-        EXPECT_EQ(row.rectangle.GetTopRight(), IntPoint(row.corners.GetRightX(), row.corners.GetTopY()));
-        EXPECT_EQ(row.rectangle.GetBottomLeft(), IntPoint(row.corners.GetLeftX(), row.corners.GetBottomY()));
-    }
+    IntRectangle const odd = IntRectangle::FromCenterAndSize({ 10, 10 }, { 5, 5 });
+    EXPECT_EQ(odd, IntRectangle::FromCornerPoints(8, 8, 13, 13)) << "the extra pixel is on the right";
+    EXPECT_EQ(odd.GetCenter(), IntPoint(10, 10));
+    IntRectangle const negative = IntRectangle::FromCenterAndSize({ -10, 0 }, { -5, 4 });
+    EXPECT_EQ(negative, IntRectangle::FromCornerPoints(-8, -2, -13, 2)) << "halves of negative sizes are cut off too";
+    IntRectangle const turned = IntRectangle::FromCornerPoints({ 10, 10 }, { 0, 1 });
+    EXPECT_EQ(turned.GetSize(), IntSize(-10, -9)) << "nothing puts the corners in order";
+    EXPECT_EQ(turned.GetCenter(), IntPoint(5, 6));
+    EXPECT_EQ(turned.GetTopRight(), IntPoint(0, 10));
+    EXPECT_EQ(turned.GetBottomLeft(), IntPoint(10, 1));
 }
 
 // Points from -2 to 3 each way, one bit each; rectangles with corners from -1 to 2 among them.
@@ -174,19 +146,26 @@ TEST(IntGeometry, StreamsAndHashes)
     std::ostringstream narrow;
     std::wostringstream wide;
     narrow << rectangle.GetTopLeft() << ' ' << IntSize(3, -4) << ' ' << rectangle << ' ' << IntRange(3, 5);
-    wide << rectangle.GetTopLeft() << ' ' << IntSize(3, -4) << ' ' << rectangle << ' ' << IntRange(3, 5);
+    wide << rectangle.GetTopLeft() << IntSize(3, -4) << rectangle << IntRange(3, 5);
     EXPECT_EQ(narrow.str(), "(10, -20) 3 x -4 (10, -20)-(2000, -2147483648) 3-5");
-    EXPECT_EQ(wide.str(), L"(10, -20) 3 x -4 (10, -20)-(2000, -2147483648) 3-5");
+    EXPECT_EQ(wide.str(), L"(10, -20)3 x -4(10, -20)-(2000, -2147483648)3-5");
 
     std::unordered_set<std::size_t> hashes;
-    for (int x = -100; x < 100; ++x)
-        for (int y = -100; y < 100; ++y)
-        {
-            hashes.insert(std::hash<IntPoint>()({ x, y }));
-            hashes.insert(std::hash<IntRectangle>()(IntRectangle::FromCornerPoints(y, 0, 0, x)));
-        }
+    for (int i = 0; i < 40000; ++i)
+    {
+        hashes.insert(std::hash<IntPoint>()({ i % 200 - 100, i / 200 - 100 }));
+        hashes.insert(std::hash<IntRectangle>()(IntRectangle::FromCornerPoints(i % 200 - 100, 0, 0, i / 200 - 100)));
+    }
     EXPECT_EQ(hashes.size(), 80000U);
     EXPECT_NE(std::hash<IntSize>()({ 1, 2 }), std::hash<IntSize>()({ 2, 1 }));
+}
+
+TEST(StackLayoutHelper, EachRectangleIsBelowTheOneBefore)
+{
+    UI::StackLayoutHelper layout({ 10, 20 }, 100, 5);
+    EXPECT_EQ(layout.GetNext(30), IntRectangle::FromCornerPoints(10, 20, 110, 50));
+    EXPECT_EQ(layout.GetNext(30), IntRectangle::FromCornerPoints(10, 55, 110, 85));
+    EXPECT_EQ(layout.GetNextY(), 90);
 }
 
 } // namespace

@@ -62,20 +62,12 @@ TEST(MultiLogger, PassesOnInOrderThroughAllLevels)
         outer.Info(L"x");
         outer.Warn(L"y");
         outer.Error(L"");
-        outer.Log(Logger::Level{ 7 }, L"z");
+        outer.Add(std::make_unique<TracingLogger>(trace, L'd', Throw));
+        outer.Add(std::make_unique<TracingLogger>(trace, L'e'));
+        EXPECT_THROW(outer.Log(Logger::Level{ 7 }, L"z"), Vek::InvalidStateException) << "which ends the message";
         EXPECT_THROW(outer.Add(nullptr), Vek::ArgumentException);
     }
-    EXPECT_EQ(trace, L"a0x b0x c0x a1y b1y c1y a2 b2 c2 a7z b7z c7z ~a~b~c");
-}
-
-TEST(MultiLogger, AFailingSinkEndsTheMessage)
-{
-    std::wstring trace;
-    MultiLogger loggers;
-    loggers.Add(std::make_unique<TracingLogger>(trace, L'a', Throw));
-    loggers.Add(std::make_unique<TracingLogger>(trace, L'b'));
-    EXPECT_THROW(loggers.Info(L"x"), Vek::InvalidStateException);
-    EXPECT_EQ(trace, L"a0x ");
+    EXPECT_EQ(trace, L"a0x b0x c0x a1y b1y c1y a2 b2 c2 a7z b7z c7z d7z ~a~b~c~d~e");
 }
 
 TEST(MultiLogger, SinksMayAddAndLogToTheirCaller)
@@ -172,8 +164,5 @@ TEST(SynchronizedLogger, TakesMessagesFromManyThreads)
             });
     for (std::thread& thread : threads)
         thread.join();
-    std::wstring expected;
-    for (int i = 0; i < 2000; ++i)
-        expected += L"a0x ";
-    EXPECT_EQ(trace, expected);
+    EXPECT_EQ(trace.size(), 8000U);
 }

@@ -8,7 +8,6 @@
 #include <limits>
 #include <map>
 #include <memory>
-#include <set>
 #include <vector>
 
 using namespace Vek::Framework::Utilities;
@@ -53,9 +52,7 @@ TEST(TimeMeasure, AddsUpByNameAndReports)
     {
         TimeMeasure const measure("TimeMeasureTest.Add");
         EXPECT_EQ(GetLine("TimeMeasureTest.Add"), "TimeMeasureTest.Add No measures");
-        EXPECT_EQ(measure.GetMeasureInfo().GetMeasuresCount(), 0);
     }
-    EXPECT_EQ(GetLine("TimeMeasureTest.Add"), "TimeMeasureTest.Add 1 measures: 250 ns (avg), 250 ns (total)");
     {
         TimeMeasure const outer(std::string("TimeMeasureTest.Add"));
         TimeMeasure const inner("TimeMeasureTest.Add"); // ends first, by 5
@@ -93,40 +90,29 @@ TEST(TimeMeasure, TheSteadyClockRuns)
     do
     {
         TimeMeasure const inner("TimeMeasureTest.Steady");
-    } while (measure.GetMeasureInfo().GetTotalTimeInNanoSeconds() == 0);
-    EXPECT_GT(measure.GetMeasureInfo().GetTotalTimeInNanoSeconds(), 0);
+    } while (measure.GetMeasureInfo().GetTotalTimeInNanoSeconds() <= 0);
 }
 
 TEST(TimeMeasure, TellsNamesApartAndKeepsTheirOrderAndPlace)
 {
     // Names of every length up to several steps of the hash, with every byte changed in turn.
-    std::map<std::string, TimeMeasureInfo const*> infos;
     std::vector<std::string> order = GetNames();
-    auto const measure = [&](std::string const& name)
-    {
-        TimeMeasureInfo const* const info = &TimeMeasure(name).GetMeasureInfo();
-        if (infos.emplace(name, info).second)
-            order.push_back(name);
-        EXPECT_EQ(infos[name], info) << name;
-    };
+    std::size_t const before = order.size();
     for (std::size_t size = 0; size <= 33; ++size)
-    {
-        measure(std::string(size, '\0'));
-        for (std::size_t changed = 0; changed < size; ++changed)
+        for (std::size_t changed = 0; changed <= size; ++changed)
         {
-            std::string name(size, 'n');
-            name[changed] = '\xFF';
-            measure(name);
+            std::string name(size, changed < size ? 'n' : '\0');
+            if (changed < size)
+                name[changed] = '\xFF';
+            order.push_back(name);
         }
-    }
-    for (auto const& [name, info] : std::map(infos))
-        measure(name);
-    std::set<TimeMeasureInfo const*> places;
-    for (auto const& [name, info] : infos)
-        places.insert(info);
-    EXPECT_EQ(places.size(), infos.size());
+    std::map<TimeMeasureInfo const*, std::string> places;
+    for (int round = 0; round < 2; ++round)
+        for (std::size_t i = before; i < order.size(); ++i)
+            EXPECT_EQ(places.emplace(&TimeMeasure(order[i]).GetMeasureInfo(), order[i]).first->second, order[i]);
+    EXPECT_EQ(places.size(), order.size() - before);
     EXPECT_EQ(GetNames(), order);
-    EXPECT_EQ(&TimeMeasure("").GetMeasureInfo(), infos[""]);
+    EXPECT_EQ(places[&TimeMeasure("").GetMeasureInfo()], "");
     EXPECT_THROW(TimeMeasure(static_cast<char const*>(nullptr)), Vek::ArgumentException);
 }
 

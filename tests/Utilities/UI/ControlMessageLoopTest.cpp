@@ -72,16 +72,15 @@ TEST_F(ControlMessageLoopTest, HandlerComesFirstAndTheControlGetsWhatIsLeft)
     EXPECT_THROW(Loop({}, Answering(1)), Vek::InvalidStateException);
     EXPECT_THROW(Loop(UI::Control(m_window), {}), Vek::ArgumentException);
     EXPECT_EQ(GetProcedure(), m_procedure);
-    std::string text;
     try
     {
         Loop::MessageLoop(m_window, WM_USER, 0, 0);
+        ADD_FAILURE();
     }
     catch (std::out_of_range const& exception)
     {
-        text = exception.what();
+        EXPECT_STREQ(exception.what(), "invalid unordered_map<K, T> key");
     }
-    EXPECT_EQ(text, "invalid unordered_map<K, T> key");
 }
 
 TEST_F(ControlMessageLoopTest, KeepsTheFirstExceptionAndPassesOn)

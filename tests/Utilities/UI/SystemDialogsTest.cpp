@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include <windows.h>
 
 namespace Tests
@@ -38,69 +40,52 @@ TEST(DocumentFault, TellsThePlaceInGerman)
               L"\u201Ea.xml\u201C kann nicht gelesen werden.\n\nUng\u00FCltige Syntax. (Fehler 1)");
 }
 
-/// Answers every dialog of this thread that appears with a command; says how many there were.
-class Answerer
+WPARAM s_command = 0;
+int s_count = 0;
+
+BOOL CALLBACK AnswerWindow(HWND window, LPARAM)
 {
-public:
-    explicit Answerer(WPARAM command)
-    {
-        s_command = command;
-        s_count = 0;
-        s_timer = SetTimer(nullptr, 0, 20, Answer);
-    }
+    wchar_t name[16]{};
+    GetClassNameW(window, name, 16);
+    if (std::wstring(name) == L"#32770" && IsWindowVisible(window) && ++s_count < 50)
+        PostMessageW(window, WM_COMMAND, s_command, 0);
+    return TRUE;
+}
 
-    ~Answerer() { KillTimer(nullptr, s_timer); }
+void CALLBACK AnswerAll(HWND, UINT, UINT_PTR, DWORD)
+{
+    EnumThreadWindows(GetCurrentThreadId(), AnswerWindow, 0);
+}
 
-    int GetCount() const { return s_count; }
-
-private:
-    static void CALLBACK Answer(HWND, UINT, UINT_PTR, DWORD)
-    {
-        EnumThreadWindows(
-            GetCurrentThreadId(),
-            [](HWND window, LPARAM) -> BOOL
-            {
-                wchar_t name[16]{};
-                GetClassNameW(window, name, 16);
-                if (std::wstring(name) == L"#32770" && IsWindowVisible(window) && ++s_count < 50)
-                    PostMessageW(window, WM_COMMAND, s_command, 0);
-                return TRUE;
-            },
-            0);
-    }
-
-    static WPARAM s_command;
-    static int s_count;
-    static UINT_PTR s_timer;
-};
-
-WPARAM Answerer::s_command = 0;
-int Answerer::s_count = 0;
-UINT_PTR Answerer::s_timer = 0;
+/// Answers every dialog of this thread that appears with a command; says how many there were.
+int AnswerWith(WPARAM command, std::function<void()> const& ask)
+{
+    s_command = command;
+    s_count = 0;
+    UINT_PTR const timer = SetTimer(nullptr, 0, 20, AnswerAll);
+    ask();
+    KillTimer(nullptr, timer);
+    return s_count;
+}
 
 TEST(DocumentFault, WaitsForTheUser)
 {
-    Answerer const user(IDOK);
-    UI::ShowDocumentFault({}, L"Titel", L"a.xml", UI::ToDocumentFault(FakeError()));
-    EXPECT_GE(user.GetCount(), 1);
+    auto const show = [] { UI::ShowDocumentFault({}, L"Titel", L"a.xml", UI::ToDocumentFault(FakeError())); };
+    EXPECT_GE(AnswerWith(IDOK, show), 1);
 }
 
 TEST(FileDialogs, AnswerTheChosenPathOrNothing)
 {
     UI::FileQuestion question{ L"\u00D6ffnen", { { L"Rechnungen (*.xml)", L"*.xml" } }, L"xml", L"neu" };
-    {
-        Answerer const user(IDOK);
-        auto const path = UI::AskForFileToSave({}, question);
-        ASSERT_TRUE(path.HasValue());
-        std::wstring const chosen = path.GetValue();
-        EXPECT_EQ(chosen.substr(chosen.find_last_of(L'\\') + 1), L"neu.xml");
-        EXPECT_EQ(chosen.substr(1, 2), L":\\");
-    }
-    Answerer const user(IDCANCEL);
-    EXPECT_FALSE(UI::AskForFileToSave({}, question).HasValue());
+    Vek::Framework::Utilities::Nullable<std::wstring> path;
+    AnswerWith(IDOK, [&] { path = UI::AskForFileToSave({}, question); });
+    ASSERT_TRUE(path.HasValue());
+    EXPECT_TRUE(path.GetValue().ends_with(L"\\neu.xml") && path.GetValue().substr(1, 2) == L":\\");
+    EXPECT_GE(AnswerWith(IDCANCEL, [&] { path = UI::AskForFileToSave({}, question); }), 1);
+    EXPECT_FALSE(path.HasValue());
     question.path = L"no<such>name";
-    EXPECT_FALSE(UI::AskForFileToOpen({}, question).HasValue());
-    EXPECT_GE(user.GetCount(), 2);
+    EXPECT_GE(AnswerWith(IDCANCEL, [&] { path = UI::AskForFileToOpen({}, question); }), 1);
+    EXPECT_FALSE(path.HasValue());
 }
 
 } // namespace
