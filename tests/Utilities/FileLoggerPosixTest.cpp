@@ -26,8 +26,6 @@ public:
         setrlimit(RLIMIT_FSIZE, &limit);
     }
 
-    FullDisk(FullDisk const&) = delete;
-    FullDisk& operator=(FullDisk const&) = delete;
     ~FullDisk()
     {
         setrlimit(RLIMIT_FSIZE, &m_before);

@@ -130,9 +130,7 @@ TEST(IntRangeText, ReadsWhatPeopleWriteAndWritesItBack)
         { L"1-", nullptr, IntRangeError::MissingNumber, 2, "half a range" },
         { L"1 2", nullptr, IntRangeError::WrongUnit, 2, "no separator" },
         { L"1-2-3", nullptr, IntRangeError::WrongUnit, 3, "two dashes" },
-        { L"\x2013"
-          L"1",
-          nullptr, IntRangeError::WrongUnit, 0, "an en dash is no sign" },
+        { L"\u20131", nullptr, IntRangeError::WrongUnit, 0, "an en dash is no sign" },
         { L"12a", nullptr, IntRangeError::WrongUnit, 2, "a letter" },
         { L"5, 2147483648", nullptr, IntRangeError::TooLarge, 3, "one too large" },
         { L"-99999999999999999999999", nullptr, IntRangeError::TooLarge, 0, "far too small" },

@@ -127,8 +127,8 @@ inline std::string Values(PropertyCollection const& collection)
     collection.ForEachProperty(
         [&](Property const& property)
         {
-            text += (text.empty() ? "" : " ") + std::to_string(property.GetId()) + ':' +
-                    std::to_string(static_cast<HookedProperty const&>(property).value);
+            text.append(text.empty() ? "" : " ").append(std::to_string(property.GetId())).append(":");
+            text.append(std::to_string(static_cast<HookedProperty const&>(property).value));
         });
     return text;
 }

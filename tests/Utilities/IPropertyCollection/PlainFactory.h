@@ -14,6 +14,7 @@ struct PlainCollection
     bool isDeletable = true;
     std::vector<std::pair<unsigned int, int>> values; // kind, value
 
+    bool operator==(PlainCollection const&) const = default;
     int const* Find(unsigned int kind) const
     {
         for (auto const& value : values)

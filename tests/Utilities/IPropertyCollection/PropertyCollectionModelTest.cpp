@@ -28,27 +28,13 @@ public:
 
     void Step()
     {
-        unsigned int const operation = m_plain.all.size() >= c_mostCollections ? 9 + Pick(2) : Pick(16);
-        switch (operation)
-        {
-        case 6:
-            return SetFlags();
-        case 7:
-        case 8:
-            return Rename();
-        case 9:
-            return CleanUp();
-        case 10:
-            return Reset();
-        case 11:
-            return ChangeObservers();
-        case 12:
-            return AddKind();
-        case 13:
-            return EditRegistered();
-        default:
-            return Obtain();
-        }
+        using Operation = void (ModelRun::*)();
+        static constexpr Operation c_operation_of[] = {
+            &ModelRun::CleanUp, &ModelRun::Reset,           &ModelRun::SetFlags, &ModelRun::Rename,
+            &ModelRun::Rename,  &ModelRun::ChangeObservers, &ModelRun::AddKind,  &ModelRun::EditRegistered,
+        }; // the rest obtain
+        unsigned int const operation = Pick(m_plain.all.size() >= c_mostCollections ? 2 : 16);
+        operation < std::size(c_operation_of) ? (this->*c_operation_of[operation])() : Obtain();
     }
 
     bool IsRight()
@@ -56,7 +42,7 @@ public:
         std::size_t index = 0;
         bool isSame = m_plain.all.size() == m_factory.GetPropertyCollectionCount();
         for (; isSame && index < m_plain.all.size(); ++index)
-            isSame = IsSame(m_plain.all[index], m_factory.GetChangeablePropertyCollectionByIndex(index));
+            isSame = m_plain.all[index] == PlainOf(m_factory.GetChangeablePropertyCollectionByIndex(index));
         EXPECT_TRUE(isSame) << "collection " << index - 1;
         EXPECT_EQ(m_plain.trace, m_trace);
         EXPECT_EQ(m_expected, m_answer);
@@ -66,21 +52,6 @@ public:
     }
 
 private:
-    static bool IsSame(PlainCollection const& plain, PropertyCollection const& real)
-    {
-        std::size_t count = 0;
-        bool isSame = plain.id == real.GetId() && plain.name == real.GetTemplateName() &&
-                      plain.isOverriden == real.IsOverriden() && plain.isDeletable == real.IsDeletable();
-        real.ForEachProperty(
-            [&](Property const& property)
-            {
-                isSame = isSame && count < plain.values.size() && plain.values[count].first == property.GetId() &&
-                         plain.values[count].second == static_cast<HookedProperty const&>(property).value;
-                ++count;
-            });
-        return isSame && count == plain.values.size();
-    }
-
     unsigned int Pick(unsigned int count) { return static_cast<unsigned int>(m_random() % count); }
     std::wstring PickName() { return std::array{ L"", L"a", L"b", L"standard" }[Pick(4)]; }
     std::size_t PickIndex() { return Pick(static_cast<unsigned int>(m_plain.all.size())); }
@@ -122,8 +93,9 @@ private:
     static PlainCollection PlainOf(PropertyCollection const& real)
     {
         PlainCollection plain{ real.GetId(), real.GetTemplateName(), real.IsOverriden(), real.IsDeletable(), {} };
-        real.ForEachProperty([&](Property const& property)
-                             { plain.values.emplace_back(property.GetId(), ValueOf(real, property.GetId())); });
+        real.ForEachProperty(
+            [&](Property const& property)
+            { plain.values.emplace_back(property.GetId(), static_cast<HookedProperty const&>(property).value); });
         return plain;
     }
 
