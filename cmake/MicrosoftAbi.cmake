@@ -19,7 +19,7 @@ set(CMAKE_AR /usr/bin/llvm-lib-19)
 set(CMAKE_LINKER /usr/bin/lld-link-19)
 set(CMAKE_MT /usr/bin/llvm-mt-19)
 
-set(own ${CMAKE_CURRENT_LIST_DIR}/../tests/microsoft-abi/include)
+set(own ${CMAKE_CURRENT_LIST_DIR}/microsoft-abi/include)
 set(clang /usr/lib/llvm-19/lib/clang/19/include)
 set(wine "/imsvc /usr/include/wine/wine/msvcrt /imsvc /usr/include/wine/wine/windows")
 set(common "--target=x86_64-pc-windows-msvc -fms-compatibility-version=19.44 /X -nobuiltininc /D_UCRT")
