@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <limits>
 #include <set>
@@ -24,7 +25,26 @@ namespace Tests
 
 using namespace VekSysBase;
 
-// The tables hold the closed days between Monday and Friday; tables/make-tables.py says how they were made.
+// tables/make-tables.py says how the tables were made.
+TEST(CalendarTables, MovableHolidaysByEpacts)
+{
+    std::ifstream file(std::string(VEK_CALENDAR_TABLES) + "movable-holidays.txt");
+    int years = 0;
+    for (int year = 0; file >> year; ++years)
+        for (Feiertag const feiertag :
+             { Feiertag::Ostermontag, Feiertag::ChristiHimmelfahrt, Feiertag::Pfingstmontag, Feiertag::Fronleichnam })
+        {
+            int day = 0;
+            file >> day;
+            auto const all = GetFeiertage(year);
+            auto const found = std::find_if(all.begin(), all.end(),
+                                            [&](FeiertagDate const& entry) { return entry.feiertag == feiertag; });
+            ASSERT_EQ(found->date, VekDateEx(day % 100, day / 100, year));
+        }
+    EXPECT_EQ(years, 2200 - 1583 + 1);
+}
+
+// The closed days between Monday and Friday.
 TEST(CalendarTables, OpenDaysByQuantLib)
 {
     struct Row

@@ -49,6 +49,33 @@ TEST(VekDateEx, EveryDayOfACycleBetweenItsNeighbours)
     }
 }
 
+/// The rule as it is told: year by year, then month by month.
+VekDateEx AddDaysYearByYear(VekDateEx const& date, int days)
+{
+    using namespace std::chrono;
+    auto const getLength = [](int year) { return std::chrono::year(year).is_leap() ? 366 : 365; };
+    int year = date.GetYear();
+    int index = date.GetDayOfYear() - 1 + days;
+    while (index < 0)
+        index += getLength(--year);
+    for (; index >= getLength(year); ++year)
+        index -= getLength(year);
+    year_month_day const result(sys_days(std::chrono::year(year) / 1 / 1) + std::chrono::days(index));
+    return VekDateEx(static_cast<int>(static_cast<unsigned>(result.day())),
+                     static_cast<int>(static_cast<unsigned>(result.month())), year);
+}
+
+TEST(VekDateEx, DaysAreAddedAsYearByYear)
+{
+    for (VekDateEx const& date : { VekDateEx(29, 2, 2024), VekDateEx(31, 2, 2023), VekDateEx(0, 13, 2000) })
+        for (int days = -200'000; days <= 200'000; ++days)
+        {
+            VekDateEx sum = date;
+            sum.AddDays(days);
+            ASSERT_TRUE(days == 0 ? sum == date : sum == AddDaysYearByYear(date, days)) << days;
+        }
+}
+
 TEST(VekDateEx, AddsAcrossTheEndsAndToDaysThatAreNotThere)
 {
     constexpr int max = std::numeric_limits<int>::max();
