@@ -18,18 +18,16 @@ namespace Vek::Framework::PropertyStore
 /// A whole factory as an XML document: ids, order, template names, both flags and the values of all collections, and
 /// the next number to be given.
 ///
-/// Format:  Windows-1252. What that cannot hold, and control characters, stand as a backslash and the unit's
-/// hexadecimal
-///          number in braces, \{1F4}, and a backslash as two, so that every text comes back unit by unit.
+/// Format:  Windows-1252. What that cannot hold, and control characters, stand as a backslash and the hexadecimal
+///          number of the unit in braces, \{1F4}, and a backslash as two, so that every text comes back unit by unit.
 ///              <propertyStore version="2" nextId="8">
 ///                <collection id="0" name="standard" overridden="0" deletable="1">
 ///                  <property kind="1">Kanzlei</property>
 /// Version: 2 is written, 1 and 2 are read. Version 1 has neither flags nor nextId nor kinds of colour; its collections
 ///          are not overridden, and deletable.
 /// Values:  a property takes part by being a StoredProperty. A standard property that a collection of the document
-/// lacks
-///          has its default there, so that a module which was added since fits in; the factory must know all kinds that
-///          the document has.
+///          lacks has its default there, so that a module which was added since fits in; the factory must know all
+///          kinds that the document has.
 /// Result:  what a document, a stream or a file does not allow is told by the result, never thrown. What kinds and
 ///          properties throw otherwise passes through.
 class VEK_API PropertyStore

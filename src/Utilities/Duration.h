@@ -14,10 +14,9 @@ namespace Vek::Framework::Utilities
 /// Units:   wherever a fixed length is asked for, a month has 30 days and a year twelve of them.
 /// Start:   with one, months are measured on the calendar after it, so that from 31 January 2024 one month is 29 days;
 ///          without one they are measured by their fixed length.
-/// Errors:  the exact part follows Decimal: nothing is thrown, NaN and Infinity go on. Months that wrap past the range
-/// of
-///          int do so. With a start and months, ArgumentException passes through from DateTime. A unit outside the list
-///          throws EnumOutOfRangeException.
+/// Errors:  the exact part follows Decimal: nothing is thrown, NaN and Infinity go on. Months beyond the range of int
+///          wrap around. With a start and months, ArgumentException passes through from DateTime. A unit outside the
+///          list throws EnumOutOfRangeException.
 class VEK_API Duration
 {
 public:

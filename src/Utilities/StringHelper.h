@@ -11,8 +11,8 @@ namespace Vek::Framework::Utilities
 ///
 /// Text:  bytes; lengths count bytes, embedded zero bytes are text like any other.
 /// Case:  all comparisons without case and MakeLowerCase fold ASCII letters only. They pass each byte to ToLower as a
-///        signed value, so that 0x80 to 0xFF come as -128 to -1 and stay: programs rely on "Ä" and "ä" being different
-///        here. ToLower itself knows the letters of Windows-1252.
+///        signed value, so that 0x80 to 0xFF come as -128 to -1 and stay: programs rely on it that an umlaut and its
+///        capital are different here. ToLower itself knows the letters of Windows-1252.
 /// Use:   any thread; never instantiated.
 class VEK_API StringHelper
 {

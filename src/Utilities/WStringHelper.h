@@ -16,8 +16,8 @@ namespace Vek::Framework::Utilities
 /// Text:  UTF-16, one code unit in each wchar_t on every platform, also where wchar_t has 32 bits: a character above
 ///        U+FFFF is two elements. Lengths and positions count units. Texts are not validated unless said otherwise.
 ///        An element above 0xFFFF is no unit: UTF-8 refuses it, no code page holds it, it equals only itself.
-/// Case:  the lower-case partners of German, unit by unit and the same on every platform: "Ä" and "ä" are equal,
-///        "ß" and "ss" are not, surrogates have no case.
+/// Case:  the lower-case partners of German, unit by unit and the same on every platform: an umlaut equals
+///        its capital, sharp s and "ss" are not equal, surrogates have no case.
 /// Zeros: the comparisons end at the first 0 unit of either text, as those of the C runtime do; what follows it is
 ///        not compared. The lengths are still those of the whole text.
 /// Use:   any thread; never instantiated.

@@ -9,8 +9,7 @@ namespace Vek::Framework::Utilities::UI
 /// The device context of a window's client area, to draw and measure with.
 ///
 /// Ownership: owns the context and gives it back in its destructor, so it is not copied. Select the former objects
-/// again
-///            before; the window must still be there.
+///            again before; the window must still be there.
 class VEK_API DeviceContext
 {
 public:
