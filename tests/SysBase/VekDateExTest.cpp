@@ -135,6 +135,7 @@ TEST(VekDateEx, YearsAndMonthsBetween)
             ASSERT_TRUE(later(from, months) <= to && to < later(from, months + 1)) << days;
             ASSERT_EQ(VekDateEx::GetMonthsBetween(to, from), -months);
         }
+    EXPECT_EQ(VekDateEx::GetYearsBetween({ 2, 1, 0 }, { 1, 1, 65535 }), 65534);
 }
 
 TEST(VekDateEx, InvalidDatesHaveNoDistance)
