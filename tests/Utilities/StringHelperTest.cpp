@@ -66,6 +66,7 @@ TEST(StringHelper, ComparisonsFoldAsciiOnlyAndReadBytesAsSigned)
         { "b", "\344", 'b' + 28, "bytes from 0x80 are negative" },
         { "a\0x"s, "A\0Y"s, -1, "a zero byte does not end the text" },
         { "[", "{", -32, "no letters" },
+        { "@BCDEFGHIJKLMNOPQRST", "`bcdefghijklmnopqrst", -32, "nor these, in a whole block" },
     };
     for (Row const& row : rows)
     {
