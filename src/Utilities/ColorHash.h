@@ -9,7 +9,7 @@
 template <class Channel>
 struct std::hash<Vek::Framework::Utilities::ColorBase<Channel>>
 {
-    std::size_t operator()(Vek::Framework::Utilities::ColorBase<Channel> const& color) const noexcept
+    constexpr std::size_t operator()(Vek::Framework::Utilities::ColorBase<Channel> const& color) const noexcept
     {
         return static_cast<std::size_t>(color.GetHashCode());
     }

@@ -196,6 +196,8 @@ TEST(PropertyStore, BadDocumentsAreToldWithTheirPlace)
         { Code::InvalidValue, 4, "/collection/property", "version='2'", "S<property kind='2'>10</property>" },
         { Code::InvalidValue, 4, "/collection/property", "version='2'", "S<property kind='1'>\\{10000}</property>" },
         { Code::InvalidValue, 4, "/collection/property", "version='2'", "S<property kind='5'>2023-02-29</property>" },
+        { Code::InvalidValue, 4, "/collection/property", "version='2'",
+          "S<property kind='5'>2024-01-31T12:00</property>" },
         { Code::DuplicateKind, 5, "/collection/property", "version='2'",
           "S<property kind='2'>1</property>\n<property kind='2'>1</property>" },
     };

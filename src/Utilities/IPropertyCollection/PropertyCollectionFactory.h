@@ -80,8 +80,7 @@ public:
     /// Takes in `source`, a collection that somebody made or edited, and answers the registered one that stands for it
     /// from now on, never an unregistered one:
     ///  - If a collection has `id` (c_no_id: none), it gets the contents of `source` and keeps its id. AfterUpdate,
-    ///  also
-    ///    when nothing changes.
+    ///    also when nothing changes.
     ///  - An unnamed source: the first collection whose every property equals the source's is shared and not touched,
     ///    be it unnamed, a template or the standard. So an unmodified copy may find a template that has the same
     ///    values before the collection it was copied from. Without one, a new collection is registered under `id`, or
