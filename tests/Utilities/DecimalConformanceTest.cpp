@@ -24,6 +24,7 @@ namespace
 {
 
 using Vek::Framework::Utilities::Decimal;
+using Vek::Framework::Utilities::RoundMode;
 
 /// A line "id operation operand... -> result condition..." without its quotes and comment.
 using Words = std::vector<std::string>;
@@ -108,8 +109,18 @@ Decimal CompareAsDecimal(Decimal const& a, Decimal const& b)
     return result == 0 && decNumberIsNaN(&number) ? ordered : Decimal(result);
 }
 
+/// To the exponent of `target`.
+Decimal Round(Decimal const& a, decNumber const& target, bool keepsZeros = true)
+{
+    return a.Round(-target.exponent, RoundMode::HalfAwayFromZero, keepsZeros);
+}
+
 std::map<std::string, Operation> const& GetOperations()
 {
+    static Operation const toIntegral = {
+        1, [](auto& a, auto&) { return Plain::Encode(Plain::Rescale(Plain::Decode(a), 0)); },
+        [](auto& a, auto&) { return a.Round(0, RoundMode::HalfAwayFromZero, true); }
+    };
     static std::map<std::string, Operation> const operations = {
         { "add", Make(decNumberAdd, [](auto& a, auto& b) { return a + b; }) },
         { "subtract", Make(decNumberSubtract, [](auto& a, auto& b) { return a - b; }) },
@@ -121,6 +132,12 @@ std::map<std::string, Operation> const& GetOperations()
         { "compare", Make(decNumberCompare, CompareAsDecimal) },
         { "minus",
           { 1, [](auto& a, auto&) { return Plain::Apply(decNumberMinus, a); }, [](auto& a, auto&) { return -a; } } },
+        { "reduce",
+          { 1, [](auto& a, auto&) { return Plain::Apply(decNumberReduce, a); },
+            [](auto& a, auto&) { return Round(a, Plain::Decode(a), false); } } },
+        { "tointegral", toIntegral },
+        { "tointegralx", toIntegral },
+        { "quantize", Make(decNumberQuantize, [](auto& a, auto& b) { return Round(a, Plain::Decode(b)); }) },
     };
     return operations;
 }
@@ -140,6 +157,12 @@ Decimal ReadText(std::string const& text)
     return Decimal::FromString(std::wstring(text.begin(), text.end()), L'.');
 }
 
+bool IsSpecial(Decimal const& value)
+{
+    decNumber const number = Plain::Decode(value);
+    return decNumberIsSpecial(&number);
+}
+
 /// Whether the case counts; its result is checked then.
 bool Check(Words const& words)
 {
@@ -156,7 +179,7 @@ bool Check(Words const& words)
     std::optional<Decimal> const a = ToDecimal(words[2]);
     std::optional<Decimal> const b = ToDecimal(arrow[-1]);
     std::optional<Decimal> const stated = ToDecimal(arrow[1]);
-    if (!a || !b || !stated)
+    if (!a || !b || !stated || ((name == "quantize" || name == "reduce") && IsSpecial(*b)))
         return false;
     auto const isStated = [&](Decimal const& result)
     { return name == "toeng" ? PrintEngineering(result) == arrow[1] : Plain::HasSameBits(result, *stated); };
@@ -178,7 +201,7 @@ TEST(DecimalConformance, PublishedCases)
         for (std::string line; entry.path().extension() == ".decTest" && std::getline(stream, line);)
             counted += Check(SplitWords(line));
     }
-    EXPECT_GE(counted, 17190) << "what counted once counts again";
+    EXPECT_GE(counted, 19759) << "what counted once counts again";
 }
 
 } // namespace Tests
