@@ -38,19 +38,13 @@ Values Read(std::wstring const& text, wchar_t separator)
 TEST(CommaSeparatedValue, LinesAndTheirValues)
 {
     EXPECT_EQ(L"a;b\\;c;d\\\\e;;", Write({ L"a", L"b;c", L"d\\e", L"" }, L';'));
-    struct
-    {
-        wchar_t const* text;
-        Values values;
-    } const rows[] = {
-        { L"", {} },
-        { L";", { L"" } },
-        { L";x", { L"", L"x" } },
-        { L"a;b;", { L"a", L"b" } },
-        { L"a;;b", { L"a", L"", L"b" } },
-        { L"\\a\\;\\\\", { L"a;\\" } },
+    // clang-format off
+    struct { wchar_t const* text; Values values; } const rows[] = {
+        { L"", {} }, { L";", { L"" } }, { L";x", { L"", L"x" } }, { L"a;b;", { L"a", L"b" } },
+        { L"a;;b", { L"a", L"", L"b" } }, { L"\\a\\;\\\\", { L"a;\\" } },
         { L"0123456789abcdef\\;0123456789;z", { L"0123456789abcdef;0123456789", L"z" } },
     };
+    // clang-format on
     for (auto const& row : rows)
     {
         SCOPED_TRACE(row.text);

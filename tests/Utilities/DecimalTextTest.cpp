@@ -95,13 +95,9 @@ TEST(DecimalText, FromStringOfAMillionDigits)
 TEST(DecimalText, ToString)
 {
     CodePoint const pair(L'\xD83D', L'\xDE00');
-    struct Row
-    {
-        char const* value;
-        CodePoint separator;
-        Nullable<CodePoint> grouping;
-        std::wstring text;
-    };
+    // clang-format off
+    struct Row { char const* value; CodePoint separator; Nullable<CodePoint> grouping; std::wstring text; };
+    // clang-format on
     Row const rows[] = {
         { "-0.00", L',', {}, L"0,00" },
         { "-Infinity", L',', CodePoint(L'.'), L"-Infinity" },

@@ -12,13 +12,9 @@ using Vek::Framework::Utilities::Double;
 TEST(Double, Comparisons)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
-    struct Row
-    {
-        double a;
-        double b;
-        char const* answers; // the comparisons that are true
-        char const* why;
-    };
+    // clang-format off
+    struct Row { double a, b; char const *answers /* the comparisons that are true */, *why; };
+    // clang-format on
     Row const rows[] = {
         { 1.0, 1.0000009, "= >= <=", "within the tolerance" },
         { 1.000001, 1.0, "= >= <=", "a difference that comes out just below it" },
@@ -48,21 +44,17 @@ TEST(Double, Comparisons)
 
 TEST(Double, GetHashValue)
 {
-    struct Row
-    {
-        double value;
-        unsigned long long hash;
-        char const* why;
-    };
+    // clang-format off
+    struct Row { double value; unsigned long long hash; char const* why; };
     Row const rows[] = {
-        { 0.00005, 1, "half a ten-thousandth, rounded away from zero" },
-        { 0.00004, 0, "less" },
+        { 0.00005, 1, "half a ten-thousandth, rounded away from zero" }, { 0.00004, 0, "less" },
         { -0.0001, 18446744073709551615U, "negative ones wrap" },
         { 922337203685477.0, 9223372036854770688U, "below 2^63" },
         { 1e15, 10000000000000000000U, "above 2^63" },
         { 1e16, 9223372036854775808U, "no longer an unsigned number" },
         { -1e16, 9223372036854775808U, "no longer a signed one" },
     };
+    // clang-format on
     for (Row const& row : rows)
     {
         SCOPED_TRACE(row.why);

@@ -115,12 +115,9 @@ TEST(FileHelper, CopiesAndDeletesFiles)
 
 TEST(FileHelper, ComparesAsText)
 {
-    struct Row
-    {
-        std::string first, second;
-        bool isEqual;
-        char const* why;
-    };
+    // clang-format off
+    struct Row { std::string first, second; bool isEqual; char const* why; };
+    // clang-format on
     std::string const block(65535, 'x'); // a file is read in blocks of 65,536 bytes
     std::string const end("\x1A");
     Row const rows[] = {

@@ -28,26 +28,18 @@ std::string ReadRest(std::istream& stream)
 
 TEST(MemoryInputStream, SeeksToTheNearestEnd)
 {
-    struct Row
-    {
-        long long offset;
-        std::ios_base::seekdir way;
-        long long position; // from 5 on, in 10 bytes
-        char const* why;
-    };
+    // clang-format off
+    struct Row { long long offset; std::ios_base::seekdir way; long long position; /* from 5 on, in 10 bytes */ };
     Row const rows[] = {
-        { 20, std::ios_base::beg, 10, "beyond the end" },
-        { -1, std::ios_base::beg, 0, "before the beginning" },
-        { -3, std::ios_base::end, 7, "inside, from the end" },
-        { -2, std::ios_base::cur, 3, "back" },
-        { c_most, std::ios_base::cur, 10, "a sum that would overflow" },
-        { c_least, std::ios_base::cur, 0, "a sum that would overflow downwards" },
-        { c_most, std::ios_base::end, 10, "the size added to the most" },
-        { c_least, std::ios_base::end, 0, "the size added to the least" },
+        { 20, std::ios_base::beg, 10 }, { -1, std::ios_base::beg, 0 },
+        { -3, std::ios_base::end, 7 }, { -2, std::ios_base::cur, 3 },
+        { c_most, std::ios_base::cur, 10 }, { c_least, std::ios_base::cur, 0 }, // sums that would overflow
+        { c_most, std::ios_base::end, 10 }, { c_least, std::ios_base::end, 0 },
     };
+    // clang-format on
     for (Row const& row : rows)
     {
-        SCOPED_TRACE(row.why);
+        SCOPED_TRACE(row.offset);
         MemoryInputStream stream("0123456789", 10);
         EXPECT_EQ(stream.seekg(5).tellg(), 5);
         EXPECT_EQ(stream.seekg(row.offset, row.way).tellg(), row.position);

@@ -14,12 +14,9 @@ using Vek::Framework::Utilities::PortableDecimal;
 
 TEST(PortableDecimal, ToDecimal)
 {
-    struct Row
-    {
-        PortableDecimal value;
-        char const* text;
-        char const* why;
-    };
+    // clang-format off
+    struct Row { PortableDecimal value; char const *text, *why; };
+    // clang-format on
     Row const rows[] = {
         { { 5, 0, 1, -2, true }, "-184467440737095516.21", "2^64 + 5" },
         { { UINT_MAX, UINT_MAX, UINT_MAX, 0, false }, "79228162514264337593543950335", "the greatest coefficient" },

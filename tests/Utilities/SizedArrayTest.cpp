@@ -7,13 +7,9 @@
 #include <cstring>
 #include <limits>
 #include <new>
-#include <type_traits>
 
 using Vek::Framework::Utilities::SizedArray;
 using Bytes = SizedArray<unsigned char>;
-
-static_assert(!std::is_copy_constructible_v<Bytes> && !std::is_copy_assignable_v<Bytes>);
-static_assert(!std::is_constructible_v<SizedArray<wchar_t>, unsigned long long, Bytes const&>);
 
 TEST(SizedArray, ReportsALowerSizeButNoHigherOne)
 {
