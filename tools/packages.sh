@@ -1,5 +1,6 @@
 # Installs Debian packages that are missing, quietly; does nothing, and asks nothing of the network, when none is.
 # Usage: require_packages PACKAGE...
+#        require_documents PACKAGE FILE    FILE lies below /usr/share/doc, which some systems leave out of every package
 #        require_npm_package NAME VERSION FOLDER
 #        require_locale NAME               the locale of that language and country in UTF-8; needs the package locales
 
@@ -34,6 +35,13 @@ require_packages()
     [ ${#missing[@]} -eq 0 ] && return 0
     echo "Installing ${missing[*]}"
     install_packages "${missing[@]}"
+}
+
+require_documents()
+{
+    [ -e "$2" ] && return 0
+    echo "Installing $1 with its documents"
+    install_packages --reinstall -o "DPkg::Options::=--path-include=/usr/share/doc/$1/*" "$1"
 }
 
 # Unpacks an npm package, without what it depends on, to FOLDER/package.

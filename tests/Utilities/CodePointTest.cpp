@@ -15,7 +15,16 @@ using namespace Vek::Framework::Utilities;
 namespace
 {
 
-static_assert(!std::is_constructible_v<CodePointEnumerator, std::wstring>); // it would be gone before the walk
+template <class Text>
+concept IsWalked = requires(Text&& text)
+{
+    CodePointEnumerator(static_cast<Text&&>(text));
+};
+static_assert(IsWalked<std::wstring&> && IsWalked<std::wstring const&> && !IsWalked<std::wstring>);
+
+// Without the explicit constructors this call could mean a text or a code point.
+static_assert(requires(std::wstring const& s) { WStringHelper::StartsWith(s, L"ab"); });
+static_assert(requires(std::wstring const& s) { WStringHelper::StartsWith(s, L'a'); });
 
 wchar_t Unit(unsigned value)
 {

@@ -45,13 +45,16 @@ TEST(Nullable, KeepsTheFlagThenTheValue)
 
 TEST(Nullable, CopiesAndMovesWhatItHolds)
 {
-    auto const value = std::make_shared<int>(1);
-    Nullable<std::shared_ptr<int>> first = value;
-    Nullable<std::shared_ptr<int>> second = first;
-    Nullable<std::shared_ptr<int>> third = std::move(second);
-    second = std::as_const(third);
+    using Shared = std::shared_ptr<int>;
+    Shared const value = std::make_shared<int>(1);
+    Nullable<Shared> first = value;
+    Nullable<Shared> second = first;
+    EXPECT_EQ(3, value.use_count());
+    Nullable<Shared> third = std::move(second);
+    second = Nullable<Shared>(value);
+    second = std::as_const(second);
     EXPECT_EQ(4, value.use_count());
-    first = Nullable<std::shared_ptr<int>>();
+    first = Nullable<Shared>();
     third = first;
     EXPECT_TRUE(first == third && third != second);
     EXPECT_EQ(2, value.use_count());
@@ -60,6 +63,7 @@ TEST(Nullable, CopiesAndMovesWhatItHolds)
     Nullable<std::unique_ptr<int>> next = std::move(owner);
     owner = std::move(next);
     EXPECT_EQ(2, *owner.GetValue());
+    static_assert(!std::is_copy_constructible_v<Nullable<std::unique_ptr<int>>>);
 }
 
 TEST(Event, HandlersMayChangeTheListWhileItIsRaised)

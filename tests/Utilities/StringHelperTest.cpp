@@ -51,16 +51,23 @@ TEST(StringHelper, ToLowerKnowsTheLettersOfTheCodePage)
 
 TEST(StringHelper, ComparisonsFoldAsciiOnlyAndReadBytesAsSigned)
 {
-    // clang-format off
-    struct Row { std::string a, b; int expected; char const* why; };
+    struct Row
+    {
+        std::string a, b;
+        int expected;
+        char const* why;
+    };
     Row const rows[] = {
-        { "ABC", "abc", 0, "ASCII letters" }, { "b", "A", 1, "the difference of the folded bytes" },
-        { "ab", "abc", -1, "the shorter one is less" }, { "abc", "AB", 1, "the longer one is greater" },
-        { "\304", "\344", -32, "umlauts are not folded" }, { "b", "\344", 'b' + 28, "bytes from 0x80 are negative" },
-        { "a\0x"s, "A\0Y"s, -1, "a zero byte does not end the text" }, { "[", "{", -32, "no letters" },
+        { "ABC", "abc", 0, "ASCII letters" },
+        { "b", "A", 1, "the difference of the folded bytes" },
+        { "ab", "abc", -1, "the shorter one is less" },
+        { "abc", "AB", 1, "the longer one is greater" },
+        { "\304", "\344", -32, "umlauts are not folded" },
+        { "b", "\344", 'b' + 28, "bytes from 0x80 are negative" },
+        { "a\0x"s, "A\0Y"s, -1, "a zero byte does not end the text" },
+        { "[", "{", -32, "no letters" },
         { "@BCDEFGHIJKLMNOPQRST", "`bcdefghijklmnopqrst", -32, "nor these, in a whole block" },
     };
-    // clang-format on
     for (Row const& row : rows)
     {
         SCOPED_TRACE(row.why);

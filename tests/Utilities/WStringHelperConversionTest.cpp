@@ -152,16 +152,20 @@ TEST(WStringHelperConversion, ByteOrderMarkGoesOnce)
 
 TEST(WStringHelperConversion, CodePageAnswersAQuestionMarkForWhatItCannotHold)
 {
-    // clang-format off
-    struct Row { std::wstring text; char const *expected, *why; };
-    Row const rows[] = {
+    struct Row
+    {
+        std::wstring text;
+        char const* expected;
+        char const* why;
+    };
+    Row rows[] = {
         { MakeText({ 0x80 }), "?", "the C1 code of a byte that has a character" },
         { MakeText({ 0x0391 }), "?", "Greek" },
         { MakeText({ 0x4E2D }), "?", "above the low byte" },
         { MakeText({ 0xD83D, 0xDE00 }), "??", "a pair is two units" },
+        { MakeText({ 0xDC00 }), "?", "a lone surrogate" },
         { MakeText({ 'x', c_hasWideElements ? 0x10041U : 0x4E2DU }), "x?", "no unit at all" },
     };
-    // clang-format on
     for (Row const& row : rows)
     {
         SCOPED_TRACE(row.why);

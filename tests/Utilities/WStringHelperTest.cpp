@@ -55,7 +55,7 @@ TEST(WStringHelper, SearchesEndAtTheFirstZero)
         EXPECT_EQ(row.isEnd, WStringHelper::EndsWith(text, row.other)) << row.other.size();
     }
     std::wstring const pair = MakeText({ 0xD83D, 0xDE00 });
-    EXPECT_TRUE(WStringHelper::StartsWith(text, L'a') && WStringHelper::StartsWith(text, L"ab")); // not ambiguous
+    EXPECT_TRUE(WStringHelper::StartsWith(text, L'a'));
     EXPECT_FALSE(WStringHelper::StartsWith(L"", L'a'));
     EXPECT_FALSE(WStringHelper::StartsWith(pair, CodePoint(pair))) << "kept as it is";
 }
