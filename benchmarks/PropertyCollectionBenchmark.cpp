@@ -7,14 +7,27 @@
 
 #include <benchmark/benchmark.h>
 
-#include <malloc.h>
 #include <map>
 #include <memory>
+#include <utility>
+#if defined(__GLIBC__)
+#    include <malloc.h>
+#endif
 
 namespace
 {
 
 using namespace Vek::Framework::Utilities::IPropertyCollection::Native;
+
+/// Zero on Windows, whose C library does not tell.
+std::size_t GetAllocatedBytes()
+{
+#if defined(__GLIBC__)
+    return mallinfo2().uordblks;
+#else
+    return 0;
+#endif
+}
 
 constexpr unsigned int c_kinds = 50;
 constexpr unsigned int c_none = PropertyCollection::c_no_id;
@@ -94,10 +107,10 @@ void Assign(benchmark::State& state)
     PropertyCollectionFactory& factory = GetFactory(100, 1);
     auto const edited = factory.Create();
     factory.ObtainPropertyCollection(*edited, 7);
-    std::size_t const before = mallinfo2().uordblks;
+    std::size_t const before = GetAllocatedBytes();
     for (auto _ : state)
         factory.ObtainPropertyCollection(*edited, 7);
-    if (mallinfo2().uordblks != before)
+    if (GetAllocatedBytes() != before)
         state.SkipWithError("allocates");
 }
 
@@ -106,10 +119,10 @@ void CleanUpHalf(benchmark::State& state)
     for (auto _ : state)
     {
         state.PauseTiming();
-        std::size_t const before = mallinfo2().uordblks;
+        std::size_t const before = GetAllocatedBytes();
         auto factory = MakeFactory(state.range(0), 1);
         state.counters["bytes per collection"] =
-            static_cast<double>(mallinfo2().uordblks - before) / static_cast<double>(state.range(0));
+            static_cast<double>(GetAllocatedBytes() - before) / static_cast<double>(state.range(0));
         state.ResumeTiming();
         factory->CleanUp([](PropertyCollection const& collection) { return collection.GetId() % 2 == 0; }, true, true);
         state.PauseTiming();

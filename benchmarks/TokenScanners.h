@@ -46,6 +46,21 @@ struct SymbolTotals
     bool operator==(SymbolTotals const&) const = default;
 };
 
+/// Some 200 KB.
+inline std::string MakeTokenSource()
+{
+    std::string source;
+    for (int i = 0; source.size() < 200'000; ++i)
+    {
+        std::string const number = std::to_string(i);
+        source += "// Rabatt der Stufe " + number + ", ohne Skonto\n";
+        source += "betrag = menge * einzelpreis + 12.50 - abzug" + number + ";\n";
+        source += "if (betrag >= " + number + " && waehrung == \"EUR\" || land != \"Schweiz und Liechtenstein\")\n";
+        source += "{\n    rabatt[stufe] = (betrag - 100) * 0.03 / faktor; kunde = Suche(\"Nummer\", kunden);\n}\n";
+    }
+    return source;
+}
+
 SymbolTotals ScanAllWithRe2c(std::string const& source);
 SymbolTotals ScanAllWithFlex(std::string const& source);
 

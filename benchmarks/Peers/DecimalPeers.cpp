@@ -1,6 +1,6 @@
-#pragma once
+// Other decimal types among the contestants of DecimalContest.h.
 
-#include <Utilities/Decimal.h>
+#include "DecimalContest.h"
 
 #include <boost/multiprecision/cpp_dec_float.hpp>
 
@@ -21,36 +21,11 @@ extern "C"
 #include <bid_conf.h>
 #include <bid_functions.h>
 
-/// The same operations on five kinds of decimal numbers, all rounding half away from zero where they can.
 namespace Benchmarks
 {
 
-struct Ours
+namespace
 {
-    using Number = Vek::Framework::Utilities::Decimal;
-    using Text = std::wstring;
-    static Text MakeText(std::string const& text) { return { text.begin(), text.end() }; }
-    static Number Parse(Text const& text) { return Number::FromString(text, L'.'); }
-    static std::size_t Format(Number const& value)
-    {
-        static Text buffer;
-        static Vek::Framework::Utilities::Nullable<Vek::Framework::Utilities::CodePoint> const noGrouping;
-        buffer.clear();
-        value.AppendToString(buffer, L'.', noGrouping);
-        return buffer.size();
-    }
-    static Number Add(Number const& a, Number const& b) { return a + b; }
-    static Number Subtract(Number const& a, Number const& b) { return a - b; }
-    static Number Multiply(Number const& a, Number const& b) { return a * b; }
-    static Number Divide(Number const& a, Number const& b) { return a / b; }
-    static Number RoundToCents(Number const& a)
-    {
-        return a.Round(2, Vek::Framework::Utilities::RoundMode::HalfAwayFromZero, true);
-    }
-    static bool IsLess(Number const& a, Number const& b) { return a < b; }
-    static Number FromDouble(double value) { return Number(value); }
-    static double ToDouble(Number const& value) { return value.ToDouble(); }
-};
 
 struct Intel
 {
@@ -169,6 +144,12 @@ struct PlainDecNumber
         decNumberCompare(&result, decimal128ToNumber(&a, &left), decimal128ToNumber(&b, &right), &context);
         return decNumberIsNegative(&result);
     }
+    static double ToDouble(Number const& value)
+    {
+        char text[DECIMAL128_String];
+        decimal128ToString(&value, text);
+        return std::strtod(text, nullptr);
+    }
 };
 
 struct Quad
@@ -220,6 +201,12 @@ struct Quad
         Number const result = Apply(decQuadCompare, a, b);
         return decQuadIsSigned(&result) != 0 && decQuadIsZero(&result) == 0;
     }
+    static double ToDouble(Number const& value)
+    {
+        char text[DECQUAD_String];
+        decQuadToString(&value, text);
+        return std::strtod(text, nullptr);
+    }
 };
 
 /// No IEEE type: 34 digits and more, never rounded to exactly 34.
@@ -239,5 +226,16 @@ struct Boost
     static Number FromDouble(double value) { return Number(value); }
     static double ToDouble(Number const& value) { return value.convert_to<double>(); }
 };
+
+bool const c_isRegistered = []
+{
+    RegisterAll<Intel>("Intel");
+    RegisterAll<PlainDecNumber>("decNumber");
+    RegisterAll<Quad>("decQuad");
+    RegisterAll<Boost>("Boost");
+    return true;
+}();
+
+} // namespace
 
 } // namespace Benchmarks

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <random>
+#include <vector>
+
+namespace Benchmarks
+{
+
+/// A day and how many to go on from it.
+template <class Date>
+struct CalendarQuestion
+{
+    Date date;
+    int days;
+};
+
+/// A million random days from 1970 to 2069; `make` makes a date of the days since 1 January 1970.
+template <class Make>
+auto MakeCalendarQuestions(Make const& make)
+{
+    std::mt19937 engine(2024);
+    std::vector<CalendarQuestion<decltype(make(0))>> questions;
+    for (int i = 0; i < 1'000'000; ++i)
+    {
+        auto const date = make(static_cast<int>(engine() % 36524));
+        questions.push_back({ date, 1 + static_cast<int>(engine() % 10) });
+    }
+    return questions;
+}
+
+} // namespace Benchmarks
