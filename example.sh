@@ -3,6 +3,7 @@
 #
 #   ./example.sh                             SettingsDocument, the tour through XML documents
 #   ./example.sh PROGRAM [ARGUMENT...]       another one: a folder of examples/ with its own arguments
+#   ./example.sh Rechnungsbuch               the report of the application Rechnungsbuch on its sample data
 set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/packages.sh
@@ -12,6 +13,10 @@ program=SettingsDocument
 if [ $# -gt 0 ] && [ -f "examples/$1/main.cpp" ]; then
     program=$1
     shift
+elif [ "${1-}" = Rechnungsbuch ]; then
+    program=RechnungsbuchReport
+    shift
+    [ $# -gt 0 ] || set -- examples/Rechnungsbuch/Data/Rechnungen.xml --date 31.3.2025
 fi
 
 mkdir -p build/linux-release

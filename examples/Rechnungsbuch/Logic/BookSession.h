@@ -8,6 +8,7 @@
 
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace Invoicing
 {
@@ -49,10 +50,13 @@ public:
     /// The same with another place to compose the document in; the tests take one that is full at some time.
     bool TrySave(std::wstring const& path, std::stringbuf& buffer, std::wstring& message);
 
-    /// Beside the book. False with a German text, also when the book has no file yet.
+    /// Beside the book, so also when that was saved at another path. False with a German text, also when the book has
+    /// no file yet.
     bool TrySaveTemplates(std::wstring& message);
 
 private:
+    void Start(std::vector<Invoice> invoices, std::wstring path, PrintTemplates templates);
+
     Vek::Framework::Utilities::Logger& m_log;
     InvoiceBook m_book;
     PrintTemplates m_templates;

@@ -15,6 +15,10 @@ namespace Invoicing
 
 class InvoiceBook;
 
+/// The years of all dates of an invoice.
+constexpr int c_first_year = 1900;
+constexpr int c_last_year = 2199;
+
 /// A name or a text: not empty, without control characters, and of characters that a file holds (Windows-1252). Blanks
 /// around it are cut off. `name` is what the field is called: L"Der Kunde" begins the sentence.
 bool TryReadText(std::wstring const& text, std::wstring const& name, std::wstring& value, InputFault& fault);

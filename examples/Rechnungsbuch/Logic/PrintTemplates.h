@@ -15,9 +15,9 @@ namespace Invoicing
 /// How invoices are printed.
 struct PrintSettings
 {
-    std::wstring printer; ///< empty: the system's own choice
-    std::wstring heading; ///< stands above the list
-    int copies = 1;       ///< 1 to 9
+    std::wstring printer;                 ///< empty: the system's own choice
+    std::wstring heading = L"Rechnungen"; ///< stands above the list
+    int copies = 1;                       ///< 1 to 9
     bool isDuplex = false;
     Vek::Framework::Utilities::Decimal margin{ 2000, -2 }; ///< millimetres, 0 to 50
 

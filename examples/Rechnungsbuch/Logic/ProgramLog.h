@@ -3,14 +3,14 @@
 #include <Utilities/FileLogger.h>
 #include <Utilities/MultiLogger.h>
 
-#include <memory>
+#include <functional>
 #include <string>
 
 namespace Invoicing
 {
 
 /// The log of the program: everything to a file of at most 1 MB with two predecessors, warnings to the debugger as
-/// well; at the end, the times that were measured. When the file cannot be opened, the debugger alone is told.
+/// well. When the file cannot be opened, the debugger alone is told.
 class ProgramLog
 {
 public:
@@ -21,6 +21,9 @@ public:
     ~ProgramLog();
 
     Vek::Framework::Utilities::Logger& GetLogger() noexcept { return m_log; }
+
+    /// Logs what was measured so far, a message for each name: for the end of the program.
+    void LogTimes();
 
 private:
     Vek::Framework::Utilities::MultiLogger m_log;
