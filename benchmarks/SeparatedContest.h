@@ -77,4 +77,11 @@ inline std::size_t GetWrittenSize()
     return totals.units + totals.values;
 }
 
+/// Room for them, whatever the dialect, which those that write rows are given.
+inline std::size_t GetWrittenRoom()
+{
+    static std::size_t const s_room = 2 * GetWrittenSize();
+    return s_room;
+}
+
 } // namespace Benchmarks

@@ -85,18 +85,20 @@ std::string WriteWithLibcsv(std::vector<std::string> const& values, std::size_t 
 bool const c_isRegistered = []
 {
     std::string const text = MakeText(MakeValues(false));
-    Register("SeparatedRead/fast_cpp_csv_parser", text.size(), [=] { return ReadWithFastCppCsvParser(text); });
     Register("SeparatedRead/Boost", text.size(), [wide = Widen(text)] { return ReadWithBoost(wide); });
     Register("SeparatedRead/libcsv", text.size(), [=] { return ReadWithLibcsv(text); });
     std::wstring const escaped = Widen(MakeText(MakeValues(true)));
-    Register("SeparatedReadEscapes/Boost", escaped.size(), [=] { return ReadWithBoost(escaped); });
+    for (std::string const workload : { "SeparatedRead", "SeparatedReadViews" })
+    {
+        Register(workload + "/fast_cpp_csv_parser", text.size(), [=] { return ReadWithFastCppCsvParser(text); });
+        Register(workload + "Escapes/Boost", escaped.size(), [=] { return ReadWithBoost(escaped); });
+    }
 
-    auto const write = [values = MakeValues(true), room = 2 * GetWrittenSize()]
-    { return WriteWithLibcsv(values, room); };
+    auto const write = [values = MakeValues(true), room = GetWrittenRoom()] { return WriteWithLibcsv(values, room); };
     auto const readBack = [](std::string const& written)
     { return ReadWithLibcsv(written.substr(0, written.size() - 1)); };
-    Register("SeparatedWrite/libcsv", GetWrittenSize(), write, readBack);
-    Register("SeparatedWriteByRow/libcsv", GetWrittenSize(), write, readBack);
+    for (std::string const way : { "", "Again", "ByRow", "ByRowCleared" })
+        Register("SeparatedWrite" + way + "/libcsv", GetWrittenSize(), write, readBack);
     return true;
 }();
 

@@ -1,10 +1,9 @@
 #include <Utilities/CommaSeparatedValueReader.h>
 
 #include <Exceptions/InvalidStateException.h>
-#include <Utilities/Internal/SeparatorFinder.h>
+#include <Utilities/Internal/SeparatedValue.h>
 
 #include <algorithm>
-#include <stdexcept>
 #include <utility>
 
 namespace Vek::Framework::Utilities
@@ -42,37 +41,10 @@ CommaSeparatedValueReader::~CommaSeparatedValueReader() = default;
 bool CommaSeparatedValueReader::MoveNext()
 {
     m_currentValue.clear();
-    wchar_t const* at = m_text.data() + m_position;
-    wchar_t const* const end = m_text.data() + m_text.size();
-    if (at == end)
+    if (m_position == m_text.size())
         return false;
-
-    SeparatorFinder const finder(m_text, m_separator);
-    for (;;)
-    {
-        wchar_t const* const stop = finder.Find(at);
-        m_currentValue.append(at, static_cast<std::size_t>(stop - at));
-        m_position = static_cast<unsigned long long>(stop - m_text.data());
-        if (stop == end)
-            return true;
-        if (*stop == m_separator)
-        {
-            ++m_position;
-            return true;
-        }
-        if (stop + 1 == end)
-        {
-            m_position = m_text.size();
-            throw std::out_of_range("invalid string position");
-        }
-        m_currentValue += stop[1];
-        at = stop + 2;
-        if (at == end)
-        {
-            m_position = m_text.size();
-            return true;
-        }
-    }
+    AppendSeparatedValue(m_text, m_separator, m_position, m_currentValue);
+    return true;
 }
 
 std::wstring const& CommaSeparatedValueReader::GetCurrentValue() const noexcept

@@ -1,5 +1,6 @@
 #include <Exceptions/InvalidStateException.h>
 #include <Utilities/CommaSeparatedValueReader.h>
+#include <Utilities/CommaSeparatedValueViewReader.h>
 #include <Utilities/CommaSeparatedValueWriter.h>
 
 #include <gtest/gtest.h>
@@ -23,14 +24,41 @@ std::wstring Write(Values const& values, wchar_t separator)
     return writer.GetResult();
 }
 
-Values Read(std::wstring const& text, wchar_t separator)
+template <class Reader>
+Values ReadBy(Reader reader)
 {
-    CommaSeparatedValueReader reader(text, separator);
     Values values;
     while (reader.MoveNext())
-        values.push_back(reader.GetCurrentValue());
+        values.emplace_back(reader.GetCurrentValue());
     EXPECT_THROW(reader.ReadNext(), Vek::InvalidStateException);
     return values;
+}
+
+Values Read(std::wstring const& text, wchar_t separator)
+{
+    Values const values = ReadBy(CommaSeparatedValueReader(text, separator));
+    EXPECT_EQ(values, ReadBy(CommaSeparatedValueViewReader(text, separator)));
+    return values;
+}
+
+template <class Reader>
+void ExpectRestAndALoneBackslash()
+{
+    Reader reader(L"a;b\\;c;d", L';');
+    EXPECT_EQ(L"a", reader.ReadNext());
+    Reader copy(reader);
+    EXPECT_EQ(L"b\\;c;d", reader.ReadRest());
+    EXPECT_FALSE(reader.MoveNext());
+    EXPECT_EQ(L"b;c", copy.ReadNext());
+    Reader const second(copy);
+    copy = reader;
+    EXPECT_EQ(L"b;c", second.GetCurrentValue()) << "its own, whatever becomes of the other";
+
+    Reader broken(L"0123456789;abcdefgh\\", L';');
+    broken.ReadNext();
+    EXPECT_THROW(broken.MoveNext(), std::out_of_range);
+    EXPECT_EQ(L"abcdefgh", broken.GetCurrentValue());
+    EXPECT_FALSE(broken.MoveNext());
 }
 
 } // namespace
@@ -54,19 +82,11 @@ TEST(CommaSeparatedValue, LinesAndTheirValues)
 
 TEST(CommaSeparatedValue, RestAndALoneBackslash)
 {
-    CommaSeparatedValueReader reader(L"a;b\\;c;", L';');
-    EXPECT_EQ(L"a", reader.ReadNext());
-    CommaSeparatedValueReader copy(reader);
-    CommaSeparatedValueReader moved(std::move(reader));
-    EXPECT_EQ(L"b\\;c;", moved.ReadRest());
-    EXPECT_FALSE(moved.MoveNext());
+    ExpectRestAndALoneBackslash<CommaSeparatedValueReader>();
+    ExpectRestAndALoneBackslash<CommaSeparatedValueViewReader>();
+    CommaSeparatedValueReader reader(L"a;b", L';');
+    EXPECT_EQ(L"a", CommaSeparatedValueReader(std::move(reader)).ReadNext());
     EXPECT_FALSE(reader.MoveNext()) << "nothing is left in what was moved";
-    EXPECT_EQ(L"b;c", copy.ReadNext());
-
-    CommaSeparatedValueReader broken(L"ab\\", L';');
-    EXPECT_THROW(broken.MoveNext(), std::out_of_range);
-    EXPECT_EQ(L"ab", broken.GetCurrentValue());
-    EXPECT_FALSE(broken.MoveNext());
 }
 
 TEST(CommaSeparatedValue, RandomRoundTrips)
@@ -86,4 +106,9 @@ TEST(CommaSeparatedValue, RandomRoundTrips)
     writer.AddValue(L"x");
     writer.AddValue(writer.GetResult());
     EXPECT_EQ(L"x;x\\;;", writer.GetResult());
+    wchar_t const* const memory = writer.GetResult().data();
+    writer.Clear();
+    writer.AddValue(L"y");
+    EXPECT_EQ(L"y;", writer.GetResult());
+    EXPECT_EQ(memory, writer.GetResult().data());
 }

@@ -4,16 +4,25 @@
 
 #include <bit>
 #include <cstddef>
-#include <string>
+#include <string_view>
 
 namespace Vek::Framework::Utilities
 {
+
+/// Of eight units: all bits of a lane are set where a separator, which is below 0x7FFF, or a backslash stands.
+inline __m128i MarkSeparators(wchar_t const* units, wchar_t separator) noexcept
+{
+    __m128i const lanes = Platform::LoadUnits(units);
+    __m128i const isSeparator = _mm_cmpeq_epi16(lanes, _mm_set1_epi16(static_cast<short>(separator)));
+    __m128i const isBackslash = _mm_cmpeq_epi16(lanes, _mm_set1_epi16(L'\\'));
+    return _mm_or_si128(isSeparator, isBackslash);
+}
 
 /// Finds separators and backslashes in wide text, eight units at a time.
 class SeparatorFinder
 {
 public:
-    SeparatorFinder(std::wstring const& text, wchar_t separator) noexcept
+    SeparatorFinder(std::wstring_view text, wchar_t separator) noexcept
         : m_separator(separator),
           m_end(text.data() + text.size()),
           // Units from 0x7FFF up are not told apart in a block.
@@ -48,10 +57,7 @@ private:
     /// Two bits a unit.
     unsigned FindInBlock(wchar_t const* at) const noexcept
     {
-        __m128i const units = Platform::LoadUnits(at);
-        __m128i const isSeparator = _mm_cmpeq_epi16(units, _mm_set1_epi16(static_cast<short>(m_separator)));
-        __m128i const isBackslash = _mm_cmpeq_epi16(units, _mm_set1_epi16(L'\\'));
-        return Platform::GetSignBits(_mm_or_si128(isSeparator, isBackslash));
+        return Platform::GetSignBits(MarkSeparators(at, m_separator));
     }
 
     wchar_t m_separator;
