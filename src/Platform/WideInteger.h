@@ -34,29 +34,29 @@ inline UInt128 Multiply(std::uint64_t a, std::uint64_t b) noexcept
 #endif
 }
 
-inline UInt128 Add(UInt128 a, UInt128 b) noexcept
+constexpr UInt128 Add(UInt128 a, UInt128 b) noexcept
 {
     std::uint64_t const low = a.low + b.low;
     return { low, a.high + b.high + (low < a.low ? 1U : 0U) };
 }
 
-inline UInt128 Add(UInt128 a, std::uint64_t b) noexcept
+constexpr UInt128 Add(UInt128 a, std::uint64_t b) noexcept
 {
     return Add(a, UInt128{ b, 0 });
 }
 
-inline UInt128 Subtract(UInt128 a, UInt128 b) noexcept
+constexpr UInt128 Subtract(UInt128 a, UInt128 b) noexcept
 {
     return { a.low - b.low, a.high - b.high - (a.low < b.low ? 1U : 0U) };
 }
 
-inline bool IsLess(UInt128 a, UInt128 b) noexcept
+constexpr bool IsLess(UInt128 a, UInt128 b) noexcept
 {
     return a.high != b.high ? a.high < b.high : a.low < b.low;
 }
 
 /// By 1 to 63 bits.
-inline UInt128 ShiftLeft(UInt128 a, unsigned count) noexcept
+constexpr UInt128 ShiftLeft(UInt128 a, unsigned count) noexcept
 {
     return { a.low << count, a.high << count | a.low >> (64U - count) };
 }

@@ -151,6 +151,7 @@ TEST(DecimalDouble, SpecialValues)
         { 0.1, "0.1", 0.1, "what was meant" },
         { 100.0, "1E+2", 100.0, "nor before the point" },
         { 0x1.0000000000001p52, "4503599627370496", 0x1p52, "2^52 + 1 loses its last bit" },
+        { 0x1.2c8752ae1889cp-37, "8.5415366967147E-12", 0x1.2c8752ae1888p-37, "the digits dropped begin with fours" },
         { -0.0, "0", 0.0, "no signed zero" },
         { infinity, "Infinity", infinity, "stays" },
         { -infinity, "-Infinity", infinity, "comes back positive" },

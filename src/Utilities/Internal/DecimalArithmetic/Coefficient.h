@@ -111,5 +111,6 @@ inline Coefficient ShiftRightHalfUp(Coefficient const& value, int count) noexcep
 
 /// Takes up to `limit` zeros off the end and answers how many. Not for zero.
 int StripZeros(Coefficient& value, int limit) noexcept;
+int StripZeros(std::uint64_t& value, int limit = c_limbDigits) noexcept;
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic
