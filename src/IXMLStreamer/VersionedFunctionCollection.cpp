@@ -9,21 +9,12 @@ template <class F>
 VersionedFunctionCollectionBase<F>::VersionedFunctionCollectionBase() = default;
 
 template <class F>
-VersionedFunctionCollectionBase<F>::VersionedFunctionCollectionBase(VersionedFunctionCollectionBase const& other)
-{
-    m_entries.reserve(other.m_entries.size());
-    for (Entry const& entry : other.m_entries)
-        m_entries.push_back({ entry.version, Internal::SharedFunction<F>(*entry.function) });
-}
+VersionedFunctionCollectionBase<F>::VersionedFunctionCollectionBase(VersionedFunctionCollectionBase const& other) =
+    default;
 
 template <class F>
 VersionedFunctionCollectionBase<F>& VersionedFunctionCollectionBase<F>::operator=(
-    VersionedFunctionCollectionBase const& other)
-{
-    VersionedFunctionCollectionBase copy(other);
-    m_entries.swap(copy.m_entries);
-    return *this;
-}
+    VersionedFunctionCollectionBase const& other) = default;
 
 template <class F>
 VersionedFunctionCollectionBase<F>::~VersionedFunctionCollectionBase() = default;
@@ -31,12 +22,8 @@ VersionedFunctionCollectionBase<F>::~VersionedFunctionCollectionBase() = default
 template <class F>
 void VersionedFunctionCollectionBase<F>::SetFunction(unsigned int version, F function)
 {
-    Internal::SharedFunction<F> stored(std::move(function));
-    auto const next = FindNext(m_entries.begin(), m_entries.end(), version);
-    if (next != m_entries.begin() && (next - 1)->version == version)
-        (next - 1)->function.Swap(stored); // the old one ends last, whatever its end brings about
-    else
-        m_entries.insert(next, Entry{ version, std::move(stored) });
+    Internal::SharedObject<F> stored(std::move(function));
+    m_functions.Set(version, stored);
 }
 
 template <class F>

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <IXMLStreamer/Internal/SharedFunction.h>
+#include <IXMLStreamer/Internal/VersionedFunctions.h>
 #include <VekApi.h>
-
-#include <algorithm>
-#include <vector>
 
 namespace Vek::Framework::IXMLStreamer::Native
 {
@@ -32,27 +29,12 @@ public:
 
 protected:
     /// The same, alive for as long as it is held.
-    Internal::SharedFunction<F> FindFunction(unsigned int version) const
-    {
-        auto const next = FindNext(m_entries.begin(), m_entries.end(), version);
-        return next == m_entries.begin() ? Internal::SharedFunction<F>() : (next - 1)->function;
-    }
+    Internal::SharedObject<F> FindFunction(unsigned int version) const { return m_functions.Find(version); }
 
 private:
-    struct Entry
-    {
-        unsigned int version;
-        Internal::SharedFunction<F> function;
-    };
+    friend class XMLStreamer;
 
-    template <class Iterator>
-    static Iterator FindNext(Iterator begin, Iterator end, unsigned int version)
-    {
-        return std::upper_bound(begin, end, version,
-                                [](unsigned int wanted, Entry const& entry) { return wanted < entry.version; });
-    }
-
-    std::vector<Entry> m_entries; // ascending by version
+    Internal::VersionedFunctions<F> m_functions;
 };
 
 } // namespace Vek::Framework::IXMLStreamer::Native

@@ -40,10 +40,9 @@ void XMLElement::RegisterUnspecifiedAttributes(unsigned int version, AttributeHa
     m_unspecifiedAttributes.SetFunction(version, std::move(handler));
 }
 
-XMLElement::AttributeHandlers const& XMLElement::FindAttribute(std::string_view name) const
+XMLElement::Attributes::Entry const* XMLElement::FindAttribute(std::string_view name) const
 {
-    AttributeHandlers const* const own = m_attributes.Find(name);
-    return own == nullptr ? m_unspecifiedAttributes : *own;
+    return m_attributes.Find(name);
 }
 
 } // namespace Vek::Framework::IXMLStreamer::Native

@@ -53,10 +53,12 @@ private:
     using AttributeHandlers = VersionedFunctionCollection<AttributeHandler>;
     using Elements = std::vector<std::unique_ptr<XMLElement>>;
 
-    AttributeHandlers const& FindAttribute(std::string_view name) const;
+    using Attributes = Internal::NameTable<AttributeHandlers>;
+
+    Attributes::Entry const* FindAttribute(std::string_view name) const;
 
     std::string m_name;
-    Internal::NameTable<AttributeHandlers> m_attributes;
+    Attributes m_attributes;
     AttributeHandlers m_unspecifiedAttributes;
     Elements* m_home = nullptr; // the root's list of all elements, so that the end of a deep description takes no stack
 };

@@ -54,16 +54,15 @@ void XMLStructureElement::InsertElement(std::unique_ptr<XMLElement> element)
 
 void XMLStructureElement::AddChild(XMLElement& element)
 {
-    if (m_children.Find(element.GetElementName()) == nullptr)
-        m_children.Add(element.GetElementName()) = &element;
+    if (m_children.Find(element.m_name) == nullptr)
+        m_children.Add(element.m_name) = { &element, element.GetElementType() == Structure };
     else
         m_error.RaiseError(StreamerError::DuplicateName, -1, -1, "");
 }
 
-XMLElement const* XMLStructureElement::FindChildElement(std::string_view name) const
+XMLStructureElement::Children::Entry const* XMLStructureElement::FindChildElement(std::string_view name) const
 {
-    XMLElement* const* const child = m_children.Find(name);
-    return child == nullptr ? nullptr : *child;
+    return m_children.Find(name);
 }
 
 void XMLStructureElement::SetOnBegin(unsigned int version, StructureHandler handler)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <IXMLStreamer/Internal/ElementDescription.h>
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLElement.h>
 
@@ -45,12 +46,14 @@ protected:
 private:
     friend class XMLStreamer;
 
+    using Children = Internal::NameTable<Internal::ElementDescription>;
+
     void InsertElement(std::unique_ptr<XMLElement> element);
     void AddChild(XMLElement& element);
-    XMLElement const* FindChildElement(std::string_view name) const;
+    Children::Entry const* FindChildElement(std::string_view name) const;
 
     StreamerError& m_error;
-    Internal::NameTable<XMLElement*> m_children;
+    Children m_children;
     Elements m_elements; // of a root: all descriptions below it, refused ones included
     VersionedFunctionCollection<StructureHandler> m_onBegin;
     VersionedFunctionCollection<StructureHandler> m_onEnd;

@@ -86,6 +86,54 @@ TEST(XMLStreamer, HandlerMayChangeTheDescriptionButNotStartARun)
     EXPECT_EQ("3 [other] -1:-1 1:23 / ", reader.Describe(reader.Read(document)));
 }
 
+// What came last at a place is compared first: neither another syntax nor what handlers describe anew may be misled.
+TEST(XMLStreamer, WhatIsRememberedOfDocumentsChangesNothing)
+{
+    XMLStreamer streamer;
+    std::string trace;
+    XMLStructureElement& root = streamer.CreateRootStructureElement("a");
+    XMLContentElement& odd = root.CreateContentElement("1x");
+    XMLContentElement& bang = root.CreateContentElement("!--");
+    XMLContentElement& item = root.CreateContentElement("item");
+    XMLContentElement const plain(item);
+    auto const note = [&](std::string const& name, std::string const& value) { return trace += name + value, true; };
+    odd.RegisterAttribute(0, "2y", note);
+    bang.SetOnDo(0, [&](auto&, auto& content) { return trace += content, true; });
+    auto const forget = [&](std::string const& name, std::string const& value)
+    {
+        item = plain; // this handler and the text of its name are in use
+        item.RegisterAttribute(0, "long-name-of-an-attribute", note);
+        return note(name, value);
+    };
+    auto const read = [&](XMLStreamer::Syntax syntax, std::string const& body)
+    {
+        trace.clear();
+        streamer.SetSyntax(syntax);
+        bool const isRead = streamer.ProcessSource("<?xml version='1.0'?><a>" + body + "</a>");
+        return (isRead ? "" : "refused ") + trace;
+    };
+    streamer.SetOnUnknownAttribute(0, [&](auto& name, auto& value)
+                                   { return item.RegisterAttribute(0, name, note), note("?" + name, value); });
+    for (int i = 0; i < 2; ++i)
+    {
+        EXPECT_EQ("2y2y", read(XMLStreamer::Lenient, "<1x 2y=\"\"></1x><1x 2y=\"\"></1x>"));
+        EXPECT_EQ("refused ", read(XMLStreamer::Strict, "<1x 2y=\"\"></1x>"));
+        EXPECT_EQ("b", read(XMLStreamer::Lenient, "< !-- >b</!--><!-- >b</!-- -->"));
+        for (auto const syntax : { XMLStreamer::Lenient, XMLStreamer::Strict })
+            for (char const* const other : { "", "b=\"4\"", "long-name-of-an-attribute=\"5\"", "c=\"6\"" })
+            {
+                item = plain;
+                item.RegisterAttribute(0, "long-name-of-an-attribute", forget);
+                bool const isRepeated = syntax == XMLStreamer::Strict && other[0] != '\0' && other[0] != 'c';
+                std::string const all = "long-name-of-an-attribute1?b2?c3";
+                ASSERT_EQ(0U, read(syntax,
+                                   std::string("<item long-name-of-an-attribute=\"1\" b=\"2\" ") + other + "/><item/>")
+                                  .find(isRepeated ? "refused " : all.substr(0, 29)))
+                    << other << trace;
+            }
+    }
+}
+
 TEST(XMLStreamer, RefusedDuplicateIsAnErrorUntilTheNextRun)
 {
     TracingReader reader;

@@ -40,6 +40,19 @@ char const* FindAny(char const* at, char const* end)
     return FindMatch<false, members...>(at, end);
 }
 
+/// The first byte in [at, end) that is none of `members`, or `end`; 16 bytes at a time.
+template <char... members>
+char const* FindOther(char const* at, char const* end)
+{
+    constexpr std::ptrdiff_t c_blockSize = 16;
+    for (; end - at >= c_blockSize; at += c_blockSize)
+        if (unsigned int const others = MatchAny<false, members...>(at) ^ 0xFFFFU; others != 0)
+            return at + std::countr_zero(others);
+    while (at != end && ((*at == members) || ...))
+        ++at;
+    return at;
+}
+
 /// The first byte in [at, end) that is one of `members` or below the space, or `end`.
 template <char... members>
 char const* FindAnyOrControl(char const* at, char const* end)

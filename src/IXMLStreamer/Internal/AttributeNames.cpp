@@ -12,10 +12,11 @@ void AttributeNames::ClearAll()
     m_names.clear();
 }
 
-void AttributeNames::AddInOrder()
+bool AttributeNames::ContainsInOrder(std::string_view name)
 {
     for (std::size_t i = m_ordered.size(); i < m_names.size(); ++i)
         m_ordered.insert(i);
+    return m_ordered.find(name) != m_ordered.end();
 }
 
 void AttributeNames::Keep()

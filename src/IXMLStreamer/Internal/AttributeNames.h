@@ -26,10 +26,10 @@ public:
             ClearAll();
     }
 
-    bool Contains(std::string_view name) const
+    bool Contains(std::string_view name)
     {
         if (m_names.size() > c_mostWalked)
-            return m_ordered.find(name) != m_ordered.end();
+            return ContainsInOrder(name);
         for (std::string_view const known : m_names)
             if (known.size() == name.size() && known.front() == name.front() && known == name)
                 return true; // most differ in length or in their first byte
@@ -37,12 +37,7 @@ public:
     }
 
     /// `name` is not empty and not there yet, and what it is a view of stays until Keep or Clear.
-    void Add(std::string_view name)
-    {
-        m_names.push_back(name);
-        if (m_names.size() > c_mostWalked)
-            AddInOrder();
-    }
+    void Add(std::string_view name) { m_names.push_back(name); }
 
     /// Copies the names that were added since.
     void Keep();
@@ -65,11 +60,11 @@ private:
     };
 
     void ClearAll();
-    void AddInOrder();
+    bool ContainsInOrder(std::string_view name);
 
     std::vector<std::string_view> m_names;
     std::deque<std::string> m_kept;                                    // copies of the first names
-    std::set<std::size_t, IsBefore> m_ordered{ IsBefore{ &m_names } }; // all, once there are more than are walked
+    std::set<std::size_t, IsBefore> m_ordered{ IsBefore{ &m_names } }; // the first names, as far as was asked for
 };
 
 } // namespace Vek::Framework::IXMLStreamer::Native::Internal

@@ -9,20 +9,36 @@ void OpenElements::Clear()
 {
     m_names.clear();
     m_elements.clear();
+    m_keepsNames = false;
     ReleaseIfLarge(m_names);
     ReleaseIfLarge(m_elements);
 }
 
-void OpenElements::Push(std::string_view name, ElementDescription const& description)
+void OpenElements::KeepNames()
 {
-    m_elements.push_back({ m_names.size(), description });
-    m_names.append(name);
+    std::string names;
+    for (std::size_t i = 0; i < m_elements.size(); ++i)
+        names.append(GetName(i));
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < m_elements.size(); ++i)
+    {
+        std::size_t const size = GetName(i).size();
+        m_elements[i].key = nullptr;
+        m_elements[i].nameStart = start;
+        start += size;
+    }
+    m_names.swap(names);
+    m_keepsNames = true;
 }
 
-void OpenElements::Pop()
+// A name that is not copied takes no room between the others.
+std::string_view OpenElements::GetName(std::size_t index) const
 {
-    m_names.resize(m_elements.back().nameStart);
-    m_elements.pop_back();
+    Element const& element = m_elements[index];
+    if (element.key != nullptr)
+        return element.key->text;
+    std::size_t const end = index + 1 < m_elements.size() ? m_elements[index + 1].nameStart : m_names.size();
+    return std::string_view(m_names).substr(element.nameStart, end - element.nameStart);
 }
 
 std::string OpenElements::GetPath() const
@@ -32,11 +48,7 @@ std::string OpenElements::GetPath() const
     std::string path;
     path.reserve(m_names.size() + m_elements.size());
     for (std::size_t i = 0; i < m_elements.size(); ++i)
-    {
-        std::size_t const start = m_elements[i].nameStart;
-        std::size_t const end = i + 1 < m_elements.size() ? m_elements[i + 1].nameStart : m_names.size();
-        path.append(1, '/').append(m_names, start, end - start);
-    }
+        path.append(1, '/').append(GetName(i));
     return path;
 }
 

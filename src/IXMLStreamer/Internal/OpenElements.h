@@ -1,7 +1,7 @@
 #pragma once
 
-#include <IXMLStreamer/XMLContentElement.h>
-#include <IXMLStreamer/XMLStructureElement.h>
+#include <IXMLStreamer/Internal/ElementDescription.h>
+#include <IXMLStreamer/Internal/NameTable.h>
 
 #include <cstddef>
 #include <string>
@@ -11,47 +11,66 @@
 namespace Vek::Framework::IXMLStreamer::Native::Internal
 {
 
-/// What describes an open element: at most one of the two, none for an element without description.
-struct ElementDescription
-{
-    XMLStructureElement const* structure = nullptr;
-    XMLContentElement const* content = nullptr;
+using Children = NameTable<ElementDescription>;
 
-    bool IsEmpty() const { return structure == nullptr && content == nullptr; }
-    XMLElement const* GetElement() const
-    {
-        return structure != nullptr ? static_cast<XMLElement const*>(structure) : content;
-    }
-};
-
-/// The elements open while a document is read, outermost first. All names lie in one string: a million nested elements
-/// cost no million allocations.
+/// The elements open while a document is read, outermost first. A name that is described is not copied, and all others
+/// lie in one string: a million nested elements cost no million allocations.
 class OpenElements
 {
 public:
+    struct Element
+    {
+        NameKey const* key; // of the description; null where the name is a copy
+        std::size_t nameStart;
+        ElementDescription description;
+        Children::Entry const** nextChild; // where the one that came here last time is remembered; null for nowhere
+    };
+
     /// Also gives back what a deep document made the list allocate.
     void Clear();
-    void Push(std::string_view name, ElementDescription const& description);
+    void Push(std::string_view name, ElementDescription const& description, Children::Entry const** firstChild)
+    {
+        m_elements.push_back({ nullptr, m_names.size(), description, firstChild });
+        m_names.append(name);
+    }
+    /// `child` lives until the element is left, the list is cleared or KeepNames is called.
+    void Push(Children::Entry const& child, Children::Entry const** firstChild)
+    {
+        if (m_keepsNames)
+            Push(child.name.text, child.value, firstChild);
+        else
+            m_elements.push_back({ &child.name, m_names.size(), child.value, firstChild });
+    }
     /// Leaves the innermost element; there must be one.
-    void Pop();
+    void Pop()
+    {
+        if (m_elements.back().key == nullptr)
+            m_names.resize(m_elements.back().nameStart);
+        m_elements.pop_back();
+    }
+    /// Copies all names, also those to come, until Clear: descriptions may end before the names are asked for.
+    void KeepNames();
 
     bool IsEmpty() const { return m_elements.empty(); }
-    /// Of the innermost element; there must be one. The name is valid until the next Push or Pop.
-    std::string_view GetName() const { return std::string_view(m_names).substr(m_elements.back().nameStart); }
-    ElementDescription const& GetDescription() const { return m_elements.back().description; }
+    /// The innermost element; there must be one.
+    Element& GetInnermost() { return m_elements.back(); }
+    Element const& GetInnermost() const { return m_elements.back(); }
+    /// Its name, which is valid until the next Push or Pop.
+    std::string_view GetName() const
+    {
+        Element const& element = m_elements.back();
+        return element.key != nullptr ? element.key->text : std::string_view(m_names).substr(element.nameStart);
+    }
 
     /// "/settings/printer", or "/" when no element is open.
     std::string GetPath() const;
 
 private:
-    struct Element
-    {
-        std::size_t nameStart;
-        ElementDescription description;
-    };
+    std::string_view GetName(std::size_t index) const;
 
     std::string m_names;
     std::vector<Element> m_elements;
+    bool m_keepsNames = false;
 };
 
 } // namespace Vek::Framework::IXMLStreamer::Native::Internal

@@ -3,6 +3,7 @@
 #include <IXMLStreamer/Internal/Declaration.h>
 #include <IXMLStreamer/Internal/ExpectedSymbols.h>
 #include <IXMLStreamer/Internal/ReaderStates.h>
+#include <IXMLStreamer/Internal/XMLStreamerOpenElement.h>
 #include <IXMLStreamer/XMLCodes.h>
 
 #include <algorithm>
@@ -52,27 +53,22 @@ void XMLStreamer::Reader::RefuseMissingElementName(Params& params)
 
 void XMLStreamer::Reader::BeginElement(std::string_view name, Params& params)
 {
-    if (m_openElements.IsEmpty() && name != m_root->GetElementName())
-        return RaiseError(StreamerError::InvalidRootElement, m_root->GetElementName(), params);
-
-    ElementDescription const description = FindDescription(name);
-    m_openElements.Push(name, description);
     params.nextStateId = StartTag;
-    if (description.IsEmpty())
-        RequireAgreement(m_onUnknownElement.CallFunction(m_version, std::string(name)), params);
+    if (m_openElements.IsEmpty())
+        return BeginRoot(name, params);
+    XMLStructureElement const* const parent = GetOpenStructure();
+    if (Child const* const child = parent == nullptr ? nullptr : parent->FindChildElement(name); child != nullptr)
+        return PushChild(*child);
+    m_openElements.Push(name, {}, nullptr);
+    RequireAgreement(Call(m_onUnknownElement, std::string(name)), params);
 }
 
-ElementDescription XMLStreamer::Reader::FindDescription(std::string_view name) const
+void XMLStreamer::Reader::BeginRoot(std::string_view name, Params& params)
 {
-    if (m_openElements.IsEmpty())
-        return { m_root.get(), nullptr };
-    XMLStructureElement const* const parent = m_openElements.GetDescription().structure;
-    XMLElement const* const child = parent == nullptr ? nullptr : parent->FindChildElement(name);
-    if (child == nullptr)
-        return {};
-    if (child->GetElementType() == XMLElement::Structure)
-        return { static_cast<XMLStructureElement const*>(child), nullptr };
-    return { nullptr, static_cast<XMLContentElement const*>(child) };
+    if (name == m_root->GetElementName())
+        m_openElements.Push(name, { m_root.get(), true }, GetFirstChild(*m_root));
+    else
+        RaiseError(StreamerError::InvalidRootElement, m_root->GetElementName(), params);
 }
 
 void XMLStreamer::Reader::SetAttributeName(std::string_view name, Params& params)
@@ -95,16 +91,16 @@ void XMLStreamer::Reader::AppendValue(std::string_view text, Params&)
 void XMLStreamer::Reader::EndAttribute(Params& params)
 {
     params.nextStateId = StartTag;
-    RequireAgreement(CallAttributeHandler(), params);
+    RequireAgreement(CallAttributeHandler(FindAttribute(m_attributeName), m_attributeName), params);
 }
 
 void XMLStreamer::Reader::EndStartTag(Params& params)
 {
-    ElementDescription const& description = m_openElements.GetDescription();
-    if (description.IsEmpty())
+    ElementDescription const& description = m_openElements.GetInnermost().description;
+    if (description.element == nullptr)
         params.nextStateId = Undescribed;
     else
-        params.nextStateId = description.structure != nullptr ? ElementLevel : Content;
+        params.nextStateId = description.isStructure ? ElementLevel : Content;
     m_value.clear();
     RequireAgreement(CallBeginHandler(), params);
 }
@@ -139,40 +135,6 @@ void XMLStreamer::Reader::EndElement(Params& params)
         return;
     m_openElements.Pop();
     params.nextStateId = m_openElements.IsEmpty() ? AfterRoot : ElementLevel;
-}
-
-// Handlers of the innermost open element; true where there is none to ask.
-
-bool XMLStreamer::Reader::CallAttributeHandler() const
-{
-    ElementDescription const& description = m_openElements.GetDescription();
-    if (XMLElement const* const element = description.GetElement(); element != nullptr)
-    {
-        bool isFound = false;
-        bool const isAgreed =
-            element->FindAttribute(m_attributeName).CallFunction(isFound, m_version, m_attributeName, m_value);
-        if (isFound)
-            return isAgreed;
-    }
-    return m_onUnknownAttribute.CallFunction(m_version, m_attributeName, m_value);
-}
-
-bool XMLStreamer::Reader::CallBeginHandler() const
-{
-    XMLStructureElement const* const structure = m_openElements.GetDescription().structure;
-    return structure == nullptr || structure->m_onBegin.CallFunction(m_version, *structure);
-}
-
-bool XMLStreamer::Reader::CallContentHandler(std::string const& content) const
-{
-    XMLContentElement const* const element = m_openElements.GetDescription().content;
-    return element == nullptr || element->m_onDo.CallFunction(m_version, *element, content);
-}
-
-bool XMLStreamer::Reader::CallEndHandler() const
-{
-    XMLStructureElement const* const structure = m_openElements.GetDescription().structure;
-    return structure == nullptr || structure->m_onEnd.CallFunction(m_version, *structure);
 }
 
 // Codes.

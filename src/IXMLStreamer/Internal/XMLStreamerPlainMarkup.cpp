@@ -2,17 +2,24 @@
 
 #include <IParser/Internal/FindAny.h>
 #include <IXMLStreamer/Internal/Blank.h>
+#include <IXMLStreamer/Internal/NameMatch.h>
 #include <IXMLStreamer/Internal/ReaderStates.h>
+#include <IXMLStreamer/Internal/XMLStreamerOpenElement.h>
 #include <IXMLStreamer/XMLCodes.h>
 
 #include <algorithm>
 
 // The short way through plain markup: tags whose attributes are written name="value", text with named codes, and
 // content followed by its own end tag, all in memory. It recognises what the state table would and calls the same
-// consumers, but one construct at a time. Whatever is unusual, incomplete or wrong is left to the state table,
-// untouched, from the construct's start on; that is what a null pointer says here. A construct that is taken in part
-// leaves the rest to the next one, so that no byte is looked at over and over while tokens in between are consumed one
-// by one. Both syntaxes go this way; what the strict one refuses is left to its state table like all that is wrong.
+// handlers, but one construct at a time. Whatever is unusual, incomplete or wrong is left to the state table,
+// untouched, from the construct's start on. Both syntaxes go this way; what the strict one refuses is left to its state
+// table like all that is wrong.
+//
+// Every step moves `at` behind what it took and answers whether the next one can go on there.
+//
+// Documents repeat themselves: the child or attribute that came next last time is compared with the document first, and
+// found or not by that one comparison. A name remembered so was found in a document of the same syntax before, where
+// recognition took it whole; so it would again.
 
 namespace Vek::Framework::IXMLStreamer::Native
 {
@@ -20,13 +27,33 @@ namespace Vek::Framework::IXMLStreamer::Native
 using namespace Internal;
 using IParser::Native::Internal::FindAny;
 using IParser::Native::Internal::FindAnyOrControl;
+using IParser::Native::Internal::FindOther;
 
 namespace
 {
 
+char const* SkipBlanks(char const* at, char const* end)
+{
+    for (int looks = 0; looks < 2; ++looks, ++at) // one blank is the most common, and not worth a block
+        if (at == end || !IsBlank(*at))
+            return at;
+    return FindOther<' ', '\t', '\r', '\n'>(at, end);
+}
+
+// True where a name before `at`, which is not `end`, ends as that of an element does.
+bool EndsElementName(char const* at, char const* end)
+{
+    return IsBlank(*at) || *at == '>' || (*at == '/' && end - at > 1 && at[1] == '>');
+}
+
+// True where a name before `at` ends as that of an attribute usually does.
+bool BeginsValue(char const* at, char const* end)
+{
+    return end - at > 1 && at[0] == '=' && at[1] == '"';
+}
+
 // True for a byte found in the text that begins at `begin` which is all right although it was looked for: a blank, and
-// a
-// ">" that does not end a "]]>". What stands before the text, a tag or a code, does not end with "]".
+// a ">" that does not end a "]]>". What stands before the text, a tag or a code, does not end with "]".
 bool IsHarmless(char const* begin, char const* at)
 {
     return IsBlank(*at) || (*at == '>' && (at - begin < 2 || at[-1] != ']' || at[-2] != ']'));
@@ -52,15 +79,44 @@ char const* FindTextEnd(char const* begin, char const* end)
 
 } // namespace
 
+/// The attribute of the innermost element that came next last time. Holds what is described of the element, which a
+/// handler may assign to.
+class XMLStreamer::Reader::ExpectedAttribute
+{
+public:
+    explicit ExpectedAttribute(XMLElement const* element) : m_element(element) { Update(); }
+
+    /// After handlers.
+    void Update()
+    {
+        if (m_element == nullptr || m_entries == m_element->m_attributes.GetEntries())
+            return;
+        m_entries = m_element->m_attributes.GetEntries();
+        m_place = &m_entries.Get()->first;
+    }
+
+    Attribute const* Get() const { return m_place == nullptr ? nullptr : *m_place; }
+
+    /// Remembers what came.
+    void Pass(Attribute const* attribute)
+    {
+        if (attribute == nullptr)
+            return;
+        *m_place = attribute;
+        m_place = &attribute->successor;
+    }
+
+private:
+    XMLElement const* m_element;
+    SharedObject<XMLElement::Attributes::Entries> m_entries;
+    Attribute const** m_place = nullptr;
+};
+
 template <bool isStrict>
 char const* XMLStreamer::Reader::ReadPlainMarkup(char const* at, char const* end, Params& params)
 {
-    while (!params.isSyntaxError)
+    while (ReadConstruct<isStrict>(at, end, params))
     {
-        char const* const next = ReadConstruct<isStrict>(at, end, params);
-        if (next == nullptr)
-            break;
-        at = next;
     }
     if (isStrict && (params.nextStateId == StartTag || params.nextStateId == AfterValue))
         m_attributeNames.Keep(); // what is in memory may go
@@ -72,7 +128,7 @@ template char const* XMLStreamer::Reader::ReadPlainMarkup<false>(char const*, ch
 template char const* XMLStreamer::Reader::ReadPlainMarkup<true>(char const*, char const*, Params&);
 
 template <bool isStrict>
-char const* XMLStreamer::Reader::ReadConstruct(char const* at, char const* end, Params& params)
+bool XMLStreamer::Reader::ReadConstruct(char const*& at, char const* end, Params& params)
 {
     switch (params.nextStateId)
     {
@@ -81,11 +137,11 @@ char const* XMLStreamer::Reader::ReadConstruct(char const* at, char const* end, 
         return ReadTag<isStrict>(at, end, params);
     case StartTag:
     case AfterValue:
-        return ReadStartTagPiece<isStrict>(at, end, params);
+        return ReadStartTag<isStrict>(at, end, params);
     case Content:
         return ReadContent<isStrict>(at, end, params);
     default:
-        return nullptr;
+        return false;
     }
 }
 
@@ -118,80 +174,105 @@ char const* XMLStreamer::Reader::AppendPlainText(char const* at, char const* end
     }
 }
 
-// Where a tag begins, or `at` when something else is to be looked at first. The text before it is blank, or dropped.
+// The text before a tag is blank, or dropped.
 template <bool isStrict>
-char const* XMLStreamer::Reader::FindTag(char const* at, char const* end)
+bool XMLStreamer::Reader::ReadTag(char const*& at, char const* end, Params& params)
 {
-    return isStrict ? std::find_if_not(at, end, IsBlank) : FindAny<'<'>(at, end);
+    at = isStrict ? SkipBlanks(at, end) : FindAny<'<'>(at, end);
+    if (end - at < 2 || *at != '<' || at[1] == '!')
+        return false;
+    if (at[1] != '/')
+        return ReadTagStart<isStrict>(at, end, params);
+    char const* const tagEnd = FindEndTagEnd(at, end);
+    return tagEnd != nullptr && ReadEndTag(at, tagEnd, params);
 }
 
-// Where the name of an element ends: before a blank, ">" or "/>". Null when it does not end in memory or is no name.
+template <bool isStrict>
+bool XMLStreamer::Reader::ReadTagStart(char const*& at, char const* end, Params& params)
+{
+    char const* const name = at + 1;
+    if (Child const* const child = GetExpectedChild(); child != nullptr)
+        if (char const* const nameEnd = MatchName(child->name, name, end);
+            nameEnd != nullptr && EndsElementName(nameEnd, end))
+        {
+            if constexpr (isStrict)
+                BeginAttributeNames();
+            PushChild(*child);
+            params.nextStateId = StartTag;
+            at = nameEnd;
+            return true;
+        }
+
+    char const* const nameEnd = FindElementNameEnd<isStrict>(name, end);
+    if (nameEnd == nullptr)
+        return false;
+    if constexpr (isStrict)
+        BeginAttributeNames();
+    std::string_view const text(name, static_cast<std::size_t>(nameEnd - name));
+    bool const isBegun = Consume<&Reader::BeginElement>(TagStart, params, text);
+    at = isBegun ? nameEnd : name;
+    return isBegun;
+}
+
+// Where the name of an element ends. Null when it does not end in memory or is no name.
 template <bool isStrict>
 char const* XMLStreamer::Reader::FindElementNameEnd(char const* name, char const* end) const
 {
+    if (isStrict && !m_nameBytes->MayBegin(*name))
+        return nullptr;
     char const* const nameEnd =
         isStrict ? m_nameBytes->FindEnd(name, end) : FindAny<' ', '\t', '\r', '\n', '>', '/'>(name, end);
-    if (nameEnd == end || nameEnd == name || (*nameEnd == '/' && (nameEnd + 1 == end || nameEnd[1] != '>')))
-        return nullptr;
-    if (isStrict && (!m_nameBytes->MayBegin(*name) || (!IsBlank(*nameEnd) && *nameEnd != '>' && *nameEnd != '/')))
-        return nullptr;
-    return nameEnd;
+    return nameEnd != end && nameEnd != name && EndsElementName(nameEnd, end) ? nameEnd : nullptr;
 }
 
+// Where the ">" of the innermost element's end tag stands, if that begins at `at`; null otherwise.
+char const* XMLStreamer::Reader::FindEndTagEnd(char const* at, char const* end) const
+{
+    if (end - at < 3 || at[1] != '/' || m_openElements.IsEmpty())
+        return nullptr;
+    NameKey const* const key = m_openElements.GetInnermost().key;
+    char const* const tagEnd =
+        key != nullptr ? MatchName(*key, at + 2, end) : MatchText(m_openElements.GetName(), at + 2, end);
+    return tagEnd != nullptr && *tagEnd == '>' ? tagEnd : nullptr;
+}
+
+bool XMLStreamer::Reader::ReadEndTag(char const*& at, char const* tagEnd, Params& params)
+{
+    bool const isEnded = Consume<&Reader::EndElement>(EndTagEnd, params);
+    at = isEnded ? tagEnd + 1 : tagEnd;
+    return isEnded;
+}
+
+// All of a start tag behind the element's name, as far as it is plain.
 template <bool isStrict>
-char const* XMLStreamer::Reader::ReadTag(char const* at, char const* end, Params& params)
+bool XMLStreamer::Reader::ReadStartTag(char const*& at, char const* end, Params& params)
 {
-    char const* const tag = FindTag<isStrict>(at, end);
-    if (tag != at)
-        return tag;
-    if (end - tag < 2 || *tag != '<' || tag[1] == '!')
-        return nullptr;
-    if (tag[1] == '/')
-        return IsEndTag(tag, end) ? ReadEndTag(tag, params) : nullptr;
-
-    char const* const name = tag + 1;
-    char const* const nameEnd = FindElementNameEnd<isStrict>(name, end);
-    if (nameEnd == nullptr)
-        return nullptr;
-    if constexpr (isStrict)
-        m_attributeNames.Clear();
-    std::string_view const text(name, static_cast<std::size_t>(nameEnd - name));
-    return Consume<&Reader::BeginElement>(TagStart, params, text) ? nameEnd : name;
-}
-
-// "</", the name of the innermost element, ">".
-bool XMLStreamer::Reader::IsEndTag(char const* at, char const* end) const
-{
-    if (m_openElements.IsEmpty())
-        return false;
-    std::string_view const name = m_openElements.GetName();
-    std::string_view const rest(at, static_cast<std::size_t>(end - at));
-    return rest.size() > name.size() + 2 && rest[1] == '/' && rest[name.size() + 2] == '>' &&
-           rest.compare(2, name.size(), name) == 0;
-}
-
-char const* XMLStreamer::Reader::ReadEndTag(char const* at, Params& params)
-{
-    char const* const tagEnd = at + 2 + m_openElements.GetName().size();
-    return Consume<&Reader::EndElement>(EndTagEnd, params) ? tagEnd + 1 : tagEnd;
-}
-
-template <bool isStrict>
-char const* XMLStreamer::Reader::ReadStartTagPiece(char const* at, char const* end, Params& params)
-{
-    bool const needsBlank = isStrict && params.nextStateId == AfterValue && at != end && !IsBlank(*at);
-    while (at != end && IsBlank(*at))
-        ++at;
-    if (at == end)
-        return nullptr;
-    if (*at == '>')
-        return Consume<&Reader::EndStartTag>(StartTag, params) ? at + 1 : at;
-    if (*at != '/')
-        return needsBlank ? nullptr : ReadAttribute<isStrict>(at, end, params);
-    if (end - at < 2 || at[1] != '>')
-        return nullptr;
-    constexpr auto c_end = isStrict ? &Reader::EndEmptyElementStrictly : &Reader::EndEmptyElement;
-    return Consume<c_end>(StartTag, params) ? at + 2 : at;
+    ExpectedAttribute expected(GetOpenElement());
+    for (;;)
+    {
+        char const* const piece = SkipBlanks(at, end);
+        if (piece == end)
+            return false;
+        if (*piece == '>')
+        {
+            bool const isRead = Consume<&Reader::EndStartTag>(StartTag, params);
+            at = isRead ? piece + 1 : piece;
+            return isRead;
+        }
+        if (*piece == '/')
+        {
+            if (end - piece < 2 || piece[1] != '>')
+                return false;
+            constexpr auto c_end = isStrict ? &Reader::EndEmptyElementStrictly : &Reader::EndEmptyElement;
+            bool const isRead = Consume<c_end>(StartTag, params);
+            at = isRead ? piece + 2 : piece;
+            return isRead;
+        }
+        if (isStrict && piece == at && params.nextStateId == AfterValue)
+            return false;
+        if (!ReadAttribute<isStrict>(at, piece, end, expected, params))
+            return false;
+    }
 }
 
 // Where the name of an attribute ends, before '="'; null when the attribute is not written so or its name is refused.
@@ -200,41 +281,58 @@ char const* XMLStreamer::Reader::FindAttributeNameEnd(char const* name, char con
 {
     char const* const nameEnd =
         isStrict ? m_nameBytes->FindEnd(name, end) : FindAny<' ', '\t', '\r', '\n', '>', '/', '='>(name, end);
-    if (nameEnd == name || end - nameEnd < 2 || nameEnd[0] != '=' || nameEnd[1] != '"')
-        return nullptr;
-    std::string_view const text(name, static_cast<std::size_t>(nameEnd - name));
-    if (isStrict && (!m_nameBytes->MayBegin(*name) || m_attributeNames.Contains(text)))
+    if (nameEnd == name || !BeginsValue(nameEnd, end) || (isStrict && !m_nameBytes->MayBegin(*name)))
         return nullptr;
     return nameEnd;
 }
 
+// `name` is behind the blanks at `at`.
 template <bool isStrict>
-char const* XMLStreamer::Reader::ReadAttribute(char const* at, char const* end, Params& params)
+bool XMLStreamer::Reader::ReadAttribute(char const*& at, char const* name, char const* end, ExpectedAttribute& expected,
+                                        Params& params)
 {
-    char const* const nameEnd = FindAttributeNameEnd<isStrict>(at, end);
-    if (nameEnd == nullptr)
-        return nullptr;
+    Attribute const* attribute = expected.Get();
+    char const* nameEnd = attribute == nullptr ? nullptr : MatchName(attribute->name, name, end);
+    if (nameEnd == nullptr || !BeginsValue(nameEnd, end))
+    {
+        nameEnd = FindAttributeNameEnd<isStrict>(name, end);
+        if (nameEnd == nullptr)
+            return false;
+        attribute = FindAttribute({ name, static_cast<std::size_t>(nameEnd - name) });
+    }
+    std::string_view const text(name, static_cast<std::size_t>(nameEnd - name));
+    if (isStrict && HasOccurred(attribute, text))
+        return false;
 
     m_value.clear();
     char const* const valueEnd = AppendPlainText<isStrict, '"'>(nameEnd + 2, end);
     if (valueEnd == end || *valueEnd != '"')
-        return nullptr;
-    m_attributeName.assign(at, static_cast<std::size_t>(nameEnd - at));
+        return false;
     if constexpr (isStrict)
-        m_attributeNames.Add({ at, m_attributeName.size() });
-    constexpr auto c_end = isStrict ? &Reader::EndAttributeStrictly : &Reader::EndAttribute;
-    return Consume<c_end>(DoubleQuotedValue, params) ? valueEnd + 1 : valueEnd;
+        NoteAttribute(attribute, text);
+    if (attribute == nullptr)
+        m_attributeName = text;
+    expected.Pass(attribute);
+    params.nextStateId = DoubleQuotedValue;
+    at = valueEnd;
+    RequireAgreement(CallAttributeHandler(attribute, attribute == nullptr ? m_attributeName : attribute->name.text),
+                     params);
+    if (params.isSyntaxError)
+        return false;
+    expected.Update();
+    params.nextStateId = isStrict ? AfterValue : StartTag;
+    ++at;
+    return true;
 }
 
 template <bool isStrict>
-char const* XMLStreamer::Reader::ReadContent(char const* at, char const* end, Params& params)
+bool XMLStreamer::Reader::ReadContent(char const*& at, char const* end, Params& params)
 {
-    char const* const contentEnd = AppendPlainText<isStrict, '<'>(at, end);
-    if (contentEnd == end || *contentEnd != '<' || !IsEndTag(contentEnd, end))
-        return contentEnd == at ? nullptr : contentEnd;
-    if (!Consume<&Reader::EndContent>(Content, params))
-        return contentEnd;
-    return ReadEndTag(contentEnd, params);
+    at = AppendPlainText<isStrict, '<'>(at, end);
+    char const* const tagEnd = at == end || *at != '<' ? nullptr : FindEndTagEnd(at, end);
+    if (tagEnd == nullptr || !Consume<&Reader::EndContent>(Content, params))
+        return false;
+    return ReadEndTag(at, tagEnd, params);
 }
 
 char const* XMLStreamer::Reader::AppendNamedCode(char const* at, char const* end)

@@ -52,6 +52,8 @@ XMLStreamer::Reader& XMLStreamer::Reader::GetReader(Params& params)
 XMLStructureElement& XMLStreamer::Reader::CreateRoot(std::string const& name)
 {
     std::unique_ptr<XMLStructureElement> root(new XMLStructureElement(m_error, name));
+    if (!m_openElements.IsEmpty())
+        m_openElements.KeepNames(); // of a run that goes on or has failed; the path outlives the descriptions
     if (m_isRunning && m_root != nullptr)
         m_replacedRoots.push_back(std::move(m_root));
     m_root = std::move(root);
@@ -107,8 +109,26 @@ void XMLStreamer::Reader::Reset()
     m_openElements.Clear();
     m_declaredEncoding.clear();
     m_value.clear();
+    if (m_syntax != m_lastSyntax)
+        ForgetWhatCameLast();
+    m_lastSyntax = m_syntax;
     m_takesAnyEncoding = m_syntax == StrictInAnyEncoding;
     m_nameBytes = m_takesAnyEncoding ? &c_bytesOfAnyEncoding : &c_bytesOfWindows1252;
+}
+
+// What is a name in one syntax may be none in another.
+void XMLStreamer::Reader::ForgetWhatCameLast() const
+{
+    if (m_root == nullptr)
+        return;
+    m_root->m_attributes.ForgetSuccessors();
+    m_root->m_children.ForgetSuccessors();
+    for (auto const& element : m_root->m_elements)
+    {
+        element->m_attributes.ForgetSuccessors();
+        if (element->GetElementType() == XMLElement::Structure)
+            static_cast<XMLStructureElement const&>(*element).m_children.ForgetSuccessors();
+    }
 }
 
 // One long value or deep document must not cost memory for ever. The names of the elements that are open after a

@@ -60,23 +60,24 @@ private:
     template <bool isStrict>
     char const* ReadPlainMarkup(char const* at, char const* end, Params& params);
     template <bool isStrict>
-    char const* ReadConstruct(char const* at, char const* end, Params& params);
+    bool ReadConstruct(char const*& at, char const* end, Params& params);
     template <bool isStrict>
-    char const* ReadTag(char const* at, char const* end, Params& params);
+    bool ReadTag(char const*& at, char const* end, Params& params);
     template <bool isStrict>
-    static char const* FindTag(char const* at, char const* end);
+    bool ReadTagStart(char const*& at, char const* end, Params& params);
     template <bool isStrict>
     char const* FindElementNameEnd(char const* name, char const* end) const;
     template <bool isStrict>
     char const* FindAttributeNameEnd(char const* name, char const* end) const;
-    char const* ReadEndTag(char const* at, Params& params);
+    char const* FindEndTagEnd(char const* at, char const* end) const;
+    bool ReadEndTag(char const*& at, char const* tagEnd, Params& params);
     template <bool isStrict>
-    char const* ReadStartTagPiece(char const* at, char const* end, Params& params);
+    bool ReadStartTag(char const*& at, char const* end, Params& params);
+    class ExpectedAttribute;
     template <bool isStrict>
-    char const* ReadAttribute(char const* at, char const* end, Params& params);
+    bool ReadAttribute(char const*& at, char const* name, char const* end, ExpectedAttribute& expected, Params& params);
     template <bool isStrict>
-    char const* ReadContent(char const* at, char const* end, Params& params);
-    bool IsEndTag(char const* at, char const* end) const;
+    bool ReadContent(char const*& at, char const* end, Params& params);
     template <bool isStrict, char stop>
     char const* AppendPlainText(char const* at, char const* end);
     char const* AppendNamedCode(char const* at, char const* end);
@@ -91,6 +92,7 @@ private:
     void BeginEndTag(Params& params);
     void RefuseMissingElementName(Params& params);
     void BeginElement(std::string_view name, Params& params);
+    void BeginRoot(std::string_view name, Params& params);
     void SetAttributeName(std::string_view name, Params& params);
     void RefuseMissingAttributeName(Params& params);
     void AppendValue(std::string_view text, Params& params);
@@ -120,11 +122,26 @@ private:
     void RefuseText(std::string_view text, Params& params);
     void RefuseToken(Params& params);
 
-    Internal::ElementDescription FindDescription(std::string_view name) const;
-    bool CallAttributeHandler() const;
+    using Attribute = XMLElement::Attributes::Entry;
+    using Child = Internal::Children::Entry;
+
+    XMLStructureElement const* GetOpenStructure() const;
+    XMLElement const* GetOpenElement() const { return m_openElements.GetInnermost().description.element; }
+    static Child const** GetFirstChild(XMLStructureElement const& structure);
+    Child const* GetExpectedChild() const;
+    void PushChild(Child const& child);
+    Attribute const* FindAttribute(std::string_view name) const;
+    void BeginAttributeNames();
+    bool HasOccurred(Attribute const* attribute, std::string_view name);
+    void NoteAttribute(Attribute const* attribute, std::string_view name);
+
+    template <class F, class... Arguments>
+    bool Call(VersionedFunctionCollection<F> const& handlers, Arguments const&... arguments) const;
+    bool CallAttributeHandler(Attribute const* attribute, std::string const& name) const;
     bool CallBeginHandler() const;
     bool CallContentHandler(std::string const& content) const;
     bool CallEndHandler() const;
+    void ForgetWhatCameLast() const;
     unsigned int GetCodeNumber() const;
     void AppendDecoded(char symbol, Params& params);
 
@@ -141,6 +158,7 @@ private:
     std::vector<std::unique_ptr<XMLStructureElement>> m_replacedRoots; // during a run, which may be inside them
     unsigned int m_version = 0;
     Syntax m_syntax = Lenient;
+    Syntax m_lastSyntax = Lenient; // of the last run, which the descriptions remember
     VersionedFunctionCollection<UnknownElementHandler> m_onUnknownElement;
     VersionedFunctionCollection<AttributeHandler> m_onUnknownAttribute;
     bool m_isRunning = false;
@@ -155,6 +173,7 @@ private:
 
     // Of a run in the strict syntax.
     bool m_takesAnyEncoding = false;
+    unsigned long long m_tagNumber = 0; // of the start tag that is read, over all runs
     Internal::NameBytes const* m_nameBytes = nullptr;
     Internal::AttributeNames m_attributeNames; // of the start tag that is read
 };

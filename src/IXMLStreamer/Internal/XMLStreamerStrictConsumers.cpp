@@ -5,6 +5,7 @@
 #include <IXMLStreamer/Internal/ExpectedSymbols.h>
 #include <IXMLStreamer/Internal/ParserErrorTable.h>
 #include <IXMLStreamer/Internal/ReaderStates.h>
+#include <IXMLStreamer/Internal/XMLStreamerOpenElement.h>
 
 // The consumers of the strict syntax, where it asks for more, in the order of a document.
 
@@ -38,15 +39,16 @@ void XMLStreamer::Reader::BeginElementStrictly(std::string_view name, Params& pa
 {
     if (!m_nameBytes->IsName(name))
         return RaiseError(StreamerError::UnsupportedSyntax, c_elementName, params);
-    m_attributeNames.Clear();
+    BeginAttributeNames();
     BeginElement(name, params);
 }
 
 void XMLStreamer::Reader::SetAttributeNameStrictly(std::string_view name, Params& params)
 {
-    if (!m_nameBytes->IsName(name) || m_attributeNames.Contains(name))
+    Attribute const* const attribute = FindAttribute(name);
+    if (!m_nameBytes->IsName(name) || HasOccurred(attribute, name))
         return RaiseError(StreamerError::UnsupportedSyntax, c_attributeName, params);
-    m_attributeNames.Add(name);
+    NoteAttribute(attribute, name);
     m_attributeNames.Keep();
     SetAttributeName(name, params);
 }
