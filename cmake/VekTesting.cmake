@@ -39,3 +39,24 @@ function(vek_add_gtest target)
             PASS_REGULAR_EXPRESSION "\\[  PASSED  \\]" FAIL_REGULAR_EXPRESSION "\\[  FAILED  \\]")
     endif()
 endfunction()
+
+# A GoogleTest program that shows dialogs, under each of these drivers of the display: null, display. Wine's driver and
+# resolution are values in the registry that a server reads once, so these tests have a prefix of their own and run one
+# after the other. Those with DPI in their names also run at other resolutions.
+function(vek_add_ui_test target)
+    if(NOT CMAKE_CROSSCOMPILING)
+        vek_add_gtest(${target})
+        return()
+    endif()
+    find_program(VEK_XVFB_RUN xvfb-run REQUIRED)
+    mark_as_advanced(VEK_XVFB_RUN)
+    foreach(driver IN LISTS ARGN)
+        add_test(NAME ${target}.${driver} COMMAND bash ${PROJECT_SOURCE_DIR}/tests/Utilities/UI/run-ui-tests.sh
+            ${driver} "${CMAKE_CROSSCOMPILING_EMULATOR}" $<TARGET_FILE:${target}>)
+        set_tests_properties(${target}.${driver} PROPERTIES
+            TIMEOUT 1800
+            RESOURCE_LOCK VekUIPrefix
+            FAIL_REGULAR_EXPRESSION "\\[  FAILED  \\]"
+            ENVIRONMENT "WINEPREFIX=${VEK_WINEPREFIX}-ui;WINEDEBUG=-all;WINEDLLOVERRIDES=winedbg.exe,mscoree,mshtml=d;LC_ALL=de_DE.UTF-8")
+    endforeach()
+endfunction()
