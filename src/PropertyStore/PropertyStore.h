@@ -19,7 +19,8 @@ namespace Vek::Framework::PropertyStore
 /// the next number to be given.
 ///
 /// Format:  Windows-1252. What that cannot hold, and control characters, stand as a backslash and the hexadecimal
-///          number of the unit in braces, \{1F4}, and a backslash as two, so that every text comes back unit by unit.
+///          number of the unit in braces, \{1F4}, and a backslash as two, so that every text comes back unit by unit. A
+///          unit above 0xFFFF, which a wchar_t of 32 bits may hold, is none of UTF-16 and refused.
 ///              <propertyStore version="2" nextId="8">
 ///                <collection id="0" name="standard" overridden="0" deletable="1">
 ///                  <property kind="1">Kanzlei</property>
@@ -37,8 +38,8 @@ public:
 
     static unsigned int const c_version;
 
-    /// Hands the whole document to the stream with one write and flushes it; nothing when a kind is refused. The stream
-    /// is to be in binary mode.
+    /// Hands the whole document to the stream with one write and flushes it; nothing when a kind or a value is refused.
+    /// The stream is to be in binary mode.
     static PropertyStoreResult Save(Utilities::IPropertyCollection::Native::PropertyCollectionFactory const& factory,
                                     std::ostream& stream);
     /// The same to a file, which is replaced only when all has arrived (FileReplacement.h).

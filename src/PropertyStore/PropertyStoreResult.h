@@ -21,7 +21,7 @@ struct PropertyStoreResult
         InvalidStandard = 7,        ///< the first collection, and it alone, has the id 0
         UnknownKind = 8,            ///< the factory has no such kind, or the format version cannot hold it
         DuplicateKind = 9,          ///< in one collection
-        InvalidValue = 10,          ///< the kind refuses it
+        InvalidValue = 10,          ///< the kind refuses it, or a text holds a unit above 0xFFFF
         KindWithoutStoredText = 11, ///< its properties are no StoredProperty
         SourceNotReadable = 12,
         TargetNotWritable = 13

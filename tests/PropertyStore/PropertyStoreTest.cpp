@@ -15,7 +15,9 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <sstream>
+#include <stdexcept>
 #include <streambuf>
 
 using namespace Vek;
@@ -115,6 +117,22 @@ private:
     std::size_t m_left;
 };
 
+/// Gives a text, then fails as a broken disk does.
+class BrokenSource : public std::streambuf
+{
+public:
+    explicit BrokenSource(std::string text) : m_text(std::move(text))
+    {
+        setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
+    }
+
+protected:
+    int_type underflow() override { throw std::runtime_error("broken"); }
+
+private:
+    std::string m_text;
+};
+
 } // namespace
 
 TEST(PropertyStore, EverythingComesBack)
@@ -138,8 +156,8 @@ TEST(PropertyStore, EverythingComesBack)
     EXPECT_THROW(Load(loaded, document), InvalidStateException);
 }
 
-// A stream that ends after any number of bytes: the old factory, or the new one.
-TEST(PropertyStore, PrefixesAndFullDisks)
+// A stream that ends or breaks after any number of bytes: the old factory, or the new one.
+TEST(PropertyStore, PrefixesAndBrokenStreams)
 {
     Settings settings;
     settings.Obtain(L"t", L"x");
@@ -152,6 +170,9 @@ TEST(PropertyStore, PrefixesAndFullDisks)
         PropertyStoreResult const result = Load(loaded, document.substr(0, size));
         ASSERT_NE(Code::Ok, result.code) << size;
         ASSERT_FALSE(result.text.empty());
+        BrokenSource broken(document.substr(0, size));
+        std::istream source(&broken);
+        ASSERT_EQ(Code::SourceNotReadable, PropertyStore::Load(loaded, source).code) << size;
         FullDisk disk(size);
         std::ostream stream(&disk);
         ASSERT_EQ(Code::TargetNotWritable, PropertyStore::Save(settings, stream).code);
@@ -237,6 +258,24 @@ TEST(PropertyStore, Version1AndKindsThatCameSince)
     EXPECT_EQ(5u, settings.Obtain(L"", L"x").GetId());
 }
 
+// Such as a wchar_t of 32 bits can hold; there are none on Windows.
+TEST(PropertyStore, UnitsThatAreNoneAreRefused)
+{
+    if constexpr (sizeof(wchar_t) == 2)
+        return;
+    std::wstring const text = { L'x', static_cast<wchar_t>(0x10FFFF) };
+    for (bool const isName : { true, false })
+    {
+        Settings settings;
+        settings.Obtain(isName ? text : L"", isName ? L"" : text);
+        std::ostringstream stream;
+        PropertyStoreResult const result = PropertyStore::Save(settings, stream);
+        EXPECT_EQ(Code::InvalidValue, result.code);
+        EXPECT_NE(std::wstring::npos, result.text.find(text));
+        EXPECT_EQ("", stream.str());
+    }
+}
+
 TEST(PropertyStore, KindsWithoutStoredTextAreNamed)
 {
     struct Mute : PropertyInfo
@@ -276,6 +315,14 @@ TEST(PropertyStore, FilesAreReplacedWholeOrNotAtAll)
 
     EXPECT_EQ(FileReplacementResult::TargetIsNoFile, ReplaceFileContent(folder.GetPath().wstring(), "new"));
     EXPECT_EQ(FileReplacementResult::NotCreated, ReplaceFileContent(folder.At(L"none") + L"/file", "new"));
+    EXPECT_EQ(FileReplacementResult::NotMoved, ReplaceFileContent(L"", "new")); // no name to move it to
+    EXPECT_FALSE(FileHelper::Exists(L".1.tmp"));
+    if constexpr (TemporaryFolder::c_isWindows)
+    {
+        std::ifstream const inUse(folder.GetPath() / "settings.xml");
+        EXPECT_EQ(Code::TargetNotWritable, PropertyStore::SaveFile(Settings(), path).code);
+        EXPECT_FALSE(FileHelper::Exists(path + L".1.tmp"));
+    }
     for (int number = 1; number <= 999; ++number)
         folder.Write("settings.xml." + std::to_string(number) + ".tmp", "somebody else's");
     PropertyStoreResult const result = PropertyStore::SaveFile(Settings(), path);

@@ -3,6 +3,7 @@
 
 #include <Exceptions/InvalidStateException.h>
 #include <Utilities/FileHelper.h>
+#include <Utilities/FileReplacement.h>
 
 #include <signal.h>
 #include <sys/resource.h>
@@ -44,6 +45,9 @@ TEST(FileHelperPosix, AFullDiskLeavesNoNewFile)
     rlimit const small = { 50'000, before.rlim_max };
     auto const handler = signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_EQ(ReplaceFileContent(present, std::string(100'000, 'x')), FileReplacementResult::NotWritten);
+    EXPECT_FALSE(FileHelper::Exists(present + L".1.tmp"));
+    EXPECT_EQ(FileHelper::ReadBinary(present)->GetSize(), 3U);
     EXPECT_FALSE(FileHelper::Copy(source, folder.At(L"new"), false));
     EXPECT_FALSE(FileHelper::Copy(source, present, true));
     setrlimit(RLIMIT_FSIZE, &before);

@@ -50,24 +50,27 @@ bool TryReadEscape(std::string const& bytes, std::size_t& at, wchar_t& unit)
 
 } // namespace
 
-std::string ToLosslessBytes(std::wstring const& text)
+bool TryToLosslessBytes(std::wstring const& text, std::string& bytes)
 {
-    std::string bytes;
+    std::string written;
     std::string byte;
     unsigned long long position = 0;
     for (std::size_t index = 0; index < text.size(); ++index)
     {
         wchar_t const unit = text[index];
+        if (static_cast<wchar_t>(static_cast<char16_t>(unit)) != unit)
+            return false;
         bool const isOuterBlank = unit == L' ' && (index == 0 || index + 1 == text.size());
         if (unit == L'\\')
-            bytes.append("\\\\");
+            written.append("\\\\");
         else if (!isOuterBlank && !IsControl(unit) &&
                  WStringHelper::TryGetWindows1252FromUTF16(std::wstring(1, unit), byte, position))
-            bytes.append(byte);
+            written.append(byte);
         else
-            AppendEscape(bytes, unit);
+            AppendEscape(written, unit);
     }
-    return bytes;
+    bytes = std::move(written);
+    return true;
 }
 
 bool TryFromLosslessBytes(std::string const& bytes, std::wstring& text)

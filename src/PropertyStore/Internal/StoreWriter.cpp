@@ -45,12 +45,15 @@ public:
 private:
     void WriteCollection(PropertyCollection const& collection)
     {
+        std::string name;
+        if (!TryToLosslessBytes(collection.GetTemplateName(), name))
+            Refuse(PropertyStoreResult::InvalidValue, L"Ung\u00fcltiger Name: " + collection.GetTemplateName());
         m_writer.WriteBeginStructure("collection",
-                                     [&collection](Emitter const& emit)
+                                     [&](Emitter const& emit)
                                      {
                                          emit("id", std::to_string(collection.GetId()));
-                                         if (!collection.GetTemplateName().empty())
-                                             emit("name", ToLosslessBytes(collection.GetTemplateName()));
+                                         if (!name.empty())
+                                             emit("name", name);
                                          emit("overridden", collection.IsOverriden() ? "1" : "0");
                                          emit("deletable", collection.IsDeletable() ? "1" : "0");
                                      });
@@ -63,13 +66,24 @@ private:
         auto const* const stored = dynamic_cast<StoredProperty const*>(&property);
         if (stored == nullptr)
         {
-            m_result.code = PropertyStoreResult::KindWithoutStoredText;
-            m_result.text = L"Die Eigenschaft \"" + property.GetPropertyName() + L"\" kann nicht gespeichert werden.";
+            Refuse(PropertyStoreResult::KindWithoutStoredText,
+                   L"Die Eigenschaft \"" + property.GetPropertyName() + L"\" kann nicht gespeichert werden.");
             return;
         }
-        m_writer.WriteContentValue("property", ToLosslessBytes(stored->GetStoredText()),
-                                   [&property](Emitter const& emit)
-                                   { emit("kind", std::to_string(property.GetId())); });
+        std::wstring const text = stored->GetStoredText();
+        std::string bytes;
+        if (!TryToLosslessBytes(text, bytes))
+            Refuse(PropertyStoreResult::InvalidValue,
+                   L"Ung\u00fcltiger Wert f\u00fcr \"" + property.GetPropertyName() + L"\": " + text);
+        m_writer.WriteContentValue(
+            "property", bytes, [&property](Emitter const& emit) { emit("kind", std::to_string(property.GetId())); });
+    }
+
+    /// The first refusal is told.
+    void Refuse(PropertyStoreResult::Code code, std::wstring const& text)
+    {
+        if (m_result.IsSuccess())
+            m_result = { code, text };
     }
 
     XMLWriter m_writer;
