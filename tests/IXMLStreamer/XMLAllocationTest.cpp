@@ -1,79 +1,25 @@
+// What readers and writers allocate: every allocation of an operation fails once, and is given back.
+
+#include "AllocationLimit.h"
+
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLStreamer.h>
 #include <IXMLStreamer/XMLWriter.h>
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <new>
 #include <sstream>
 #include <string>
 
-#include <malloc.h>
-
-// What readers and writers allocate: every allocation of an operation fails once, and is given back. A program of its
-// own, since it takes the place of the global allocation.
-
-namespace
-{
-
-int s_allocationsLeft = -1; // negative: any number
-std::size_t s_bytesInUse = 0;
-
-} // namespace
-
-void* operator new(std::size_t size)
-{
-    if (s_allocationsLeft == 0)
-        throw std::bad_alloc();
-    s_allocationsLeft -= s_allocationsLeft > 0 ? 1 : 0;
-    void* const memory = std::malloc(size == 0 ? 1 : size);
-    s_bytesInUse += malloc_usable_size(memory);
-    return memory;
-}
-
-void operator delete(void* memory) noexcept
-{
-    s_bytesInUse -= malloc_usable_size(memory);
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept
-{
-    operator delete(memory);
-}
-
-namespace
-{
-
+using namespace AllocationLimit;
 using namespace Vek::Framework::IXMLStreamer::Native;
-
-/// True when `action` came through with so many allocations.
-template <class Action>
-bool RunsWith(int allocations, Action const& action)
-{
-    s_allocationsLeft = allocations;
-    try
-    {
-        action();
-    }
-    catch (std::bad_alloc const&)
-    {
-        s_allocationsLeft = -1;
-        return false;
-    }
-    s_allocationsLeft = -1;
-    return true;
-}
-
-} // namespace
 
 TEST(XMLAllocation, AnElementIsWrittenWithAllOfItsAttributesOrNotAtAll)
 {
     std::string const value(3000, '<');
     auto const swallow = [&](auto const& emit)
     {
-        int const allocations = s_allocationsLeft;
+        int const allocations = left;
         RunsWith(allocations, [&] { emit("first", "1"), emit("second", value); });
     };
     bool isWritten = false;
@@ -139,9 +85,9 @@ TEST(XMLAllocation, WhatAGiantDocumentNeededIsGivenBack)
             reader.SetSyntax(syntax);
             reader.CreateRootStructureElement("a").CreateContentElement("b");
             reader.ProcessSource("<?xml version='1.0'?><a></a>");
-            std::size_t const before = s_bytesInUse;
+            std::size_t const before = bytesInUse;
             reader.ProcessSource("<?xml version='1.0'?><a>" + body + "</a>");
             reader.ProcessSource("<?xml version='1.0'?><a></a>"); // a path is kept until then
-            EXPECT_LT(s_bytesInUse, before + 100'000) << body.substr(0, 20);
+            EXPECT_LT(bytesInUse, before + 100'000) << body.substr(0, 20);
         }
 }

@@ -2,6 +2,7 @@
 
 #include <Exceptions/ArgumentException.h>
 #include <Exceptions/InvalidStateException.h>
+#include <Utilities/IPropertyCollection/PropertyCollection.h>
 
 namespace Vek::Framework::Utilities::IPropertyCollection::Native
 {
@@ -9,7 +10,12 @@ namespace Vek::Framework::Utilities::IPropertyCollection::Native
 Property::Property(unsigned int id) noexcept : m_id(id)
 {
 }
-Property::Property(Property const&) = default;
+Property::Property(Property const& other)
+    : m_id(other.m_id),
+      m_fingerprint(other.m_fingerprint),
+      m_collection(other.m_collection)
+{
+}
 Property::~Property() = default;
 
 Property& Property::operator=(Property const& other)
@@ -40,6 +46,17 @@ PropertyCollection& Property::GetPropertyCollection() const
     if (m_collection == nullptr)
         throw InvalidStateException();
     return *m_collection;
+}
+
+void Property::SetFingerprint(unsigned int fingerprint) noexcept
+{
+    if (fingerprint == m_fingerprint)
+        return;
+    if (m_isHeld != 0)
+        m_collection->CountOut(*this);
+    m_fingerprint = fingerprint & 0x7FFFFFFF;
+    if (m_isHeld != 0)
+        m_collection->CountIn(*this);
 }
 
 PropertyCollection* Property::FindPropertyCollection() const noexcept

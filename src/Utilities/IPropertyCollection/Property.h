@@ -10,10 +10,14 @@ namespace Vek::Framework::Utilities::IPropertyCollection::Native
 
 class PropertyCollection;
 
+template <class V>
+class VEK_TEMPLATE_API ValueProperty;
+
 namespace Internal
 {
 class Assignment;
 class MadeProperties;
+class PropertyFinder;
 } // namespace Internal
 
 /// One value in a collection. The program derives the classes that carry values, or uses the ready-made ones.
@@ -69,9 +73,18 @@ public:
 private:
     friend class Internal::Assignment;
     friend class Internal::MadeProperties;
+    friend class Internal::PropertyFinder;
     friend class PropertyCollection;
+    template <class V>
+    friend class ValueProperty;
+
+    /// For the ready-made classes, whenever their value has changed: equal values have equal fingerprints. 0 says that
+    /// nothing is known of the value, as with all classes of programs.
+    void SetFingerprint(unsigned int fingerprint) noexcept;
 
     unsigned int m_id;
+    unsigned int m_fingerprint : 31 = 0;
+    unsigned int m_isHeld : 1 = 0; // by m_collection, which counts the fingerprint in
     PropertyCollection* m_collection = nullptr;
 };
 

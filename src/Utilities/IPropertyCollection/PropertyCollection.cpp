@@ -1,5 +1,6 @@
 #include <Utilities/IPropertyCollection/PropertyCollection.h>
 
+#include <Utilities/Internal/MixHash.h>
 #include <Utilities/IPropertyCollection/Internal/Assignment.h>
 #include <Utilities/IPropertyCollection/Internal/PropertyFinder.h>
 #include <Utilities/IPropertyCollection/Internal/RunningCall.h>
@@ -9,6 +10,16 @@
 
 namespace Vek::Framework::Utilities::IPropertyCollection::Native
 {
+
+namespace
+{
+
+unsigned long long MixFingerprint(unsigned int id, unsigned int fingerprint) noexcept
+{
+    return MixHash(static_cast<unsigned long long>(id) << 32U | fingerprint);
+}
+
+} // namespace
 
 unsigned int const PropertyCollection::c_no_id; // defined here, or no host could take its address from a DLL
 
@@ -32,7 +43,10 @@ PropertyCollection::~PropertyCollection()
     auto const properties = std::exchange(m_properties, {});
     for (auto const& property : properties)
         if (property->m_collection == this)
+        {
             property->m_collection = nullptr;
+            property->m_isHeld = 0;
+        }
 }
 
 unsigned int PropertyCollection::GetId() const noexcept
@@ -137,8 +151,10 @@ void PropertyCollection::Assign(PropertyCollection const& other, unsigned int id
     Internal::RunningCall const call(m_factory);
     Internal::RunningCall const callOfOther(other.m_factory);
     // Name, flags and id first: the properties may ask for them.
-    std::wstring templateName = other.m_templateName;
-    m_templateName.swap(templateName);
+    bool const isRenamed = m_templateName != other.m_templateName;
+    std::wstring templateName = isRenamed ? other.m_templateName : std::wstring();
+    if (isRenamed)
+        m_templateName.swap(templateName);
     bool const wasOverriden = std::exchange(m_isOverriden, other.m_isOverriden);
     bool const wasDeletable = std::exchange(m_isDeletable, m_isDeletable && other.m_isDeletable);
     unsigned int const oldId = std::exchange(m_id, id);
@@ -148,7 +164,8 @@ void PropertyCollection::Assign(PropertyCollection const& other, unsigned int id
     }
     catch (...)
     {
-        m_templateName.swap(templateName);
+        if (isRenamed)
+            m_templateName.swap(templateName);
         m_isOverriden = wasOverriden;
         m_isDeletable = wasDeletable;
         m_id = oldId;
@@ -159,9 +176,37 @@ void PropertyCollection::Assign(PropertyCollection const& other, unsigned int id
 Property* PropertyCollection::FindProperty(unsigned int id) const noexcept
 {
     for (auto const& property : m_properties)
-        if (property->GetId() == id)
+        if (property->m_id == id)
             return property.get();
     return nullptr;
+}
+
+void PropertyCollection::Hold(std::shared_ptr<Property> property) noexcept
+{
+    property->m_isHeld = 1;
+    CountIn(*property);
+    m_properties.push_back(std::move(property));
+}
+
+void PropertyCollection::CountIn(Property const& property) noexcept
+{
+    if (property.m_fingerprint == 0)
+        ++m_unknownFingerprints;
+    m_fingerprints += MixFingerprint(property.m_id, property.m_fingerprint);
+}
+
+void PropertyCollection::CountOut(Property const& property) noexcept
+{
+    if (property.m_fingerprint == 0)
+        --m_unknownFingerprints;
+    m_fingerprints -= MixFingerprint(property.m_id, property.m_fingerprint);
+}
+
+bool PropertyCollection::IsKnownToDiffer(PropertyCollection const& other) const noexcept
+{
+    // With as many properties each, all ids must meet for them to be equal, and so the sums.
+    return m_properties.size() == other.m_properties.size() && m_fingerprints != other.m_fingerprints &&
+           m_unknownFingerprints == 0 && other.m_unknownFingerprints == 0;
 }
 
 bool PropertyCollection::AreEqual(Internal::PropertyFinder& finder, PropertyCollection const& other)
@@ -170,7 +215,7 @@ bool PropertyCollection::AreEqual(Internal::PropertyFinder& finder, PropertyColl
     for (std::size_t index = 0; index < size; ++index)
     {
         Property const& property = *other.m_properties[index];
-        Property const* const counterpart = finder.Find(property.GetId(), index);
+        Property const* const counterpart = finder.Find(property.m_id, index);
         if (counterpart == nullptr || !counterpart->OnIsEqual(property))
             return false;
     }

@@ -84,6 +84,7 @@ public:
     bool operator==(PropertyCollection const& other) const;
 
 private:
+    friend class Property;
     friend class PropertyCollectionFactory;
     friend class PropertyCollectionFactoryAccess;
     friend class PropertyCollectionObtainer;
@@ -106,20 +107,31 @@ private:
 
     /// Takes over name, flags and properties of `other`; the id becomes `id`. A collection that is not deletable stays
     /// so: what somebody protected does not lose that with new contents. When it throws, this one is as before.
+    /// Allocates nothing when all properties are there, but for another name that a string does not hold in place.
     void Assign(PropertyCollection const& other, unsigned int id);
     Property* FindProperty(unsigned int id) const noexcept;
+
+    /// Takes in a property that names this collection already; there must be room for it.
+    void Hold(std::shared_ptr<Property> property) noexcept;
+    void CountIn(Property const& property) noexcept;
+    void CountOut(Property const& property) noexcept;
+    /// True when ArePropertiesEqual is false both ways, as can be told without looking at the properties; false when
+    /// they must be asked.
+    bool IsKnownToDiffer(PropertyCollection const& other) const noexcept;
     /// ArePropertiesEqual of the collection that `finder` searches.
     static bool AreEqual(Internal::PropertyFinder& finder, PropertyCollection const& other);
 
     Internal::FactoryState& m_factory;
-    std::wstring m_templateName;
     std::vector<std::shared_ptr<Property>> m_properties;
+    unsigned long long m_fingerprints = 0;  // their sum, each mixed with its id
+    unsigned int m_unknownFingerprints = 0; // properties that have none
     unsigned int m_id = c_no_id;
     bool m_isOverriden = false;
     bool m_isDeletable = true;
     Registration m_registration = Registration::None;
     mutable unsigned int m_pins = 0;      // running calls that are about it: no clean-up removes it
     mutable unsigned int m_obtainers = 0; // that have it in use
+    std::wstring m_templateName;
 };
 
 } // namespace Vek::Framework::Utilities::IPropertyCollection::Native

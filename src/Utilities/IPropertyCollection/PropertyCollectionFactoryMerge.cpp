@@ -39,7 +39,7 @@ PropertyCollection* PropertyCollectionFactory::FindEqual(PropertyCollection cons
     Internal::PropertyFinder finder(source);
     for (PropertyCollection* const collection : m_state->collections.GetAll())
     {
-        if (collection->m_registration == PropertyCollection::Registration::None)
+        if (collection->m_registration == PropertyCollection::Registration::None || source.IsKnownToDiffer(*collection))
             continue;
         Internal::Pin const pin(*collection);
         if (PropertyCollection::AreEqual(finder, *collection))

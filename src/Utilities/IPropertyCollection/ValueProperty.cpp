@@ -1,7 +1,14 @@
 #include <Utilities/IPropertyCollection/ValueProperty.h>
 
+#include <Utilities/ColorHash.h>
+#include <Utilities/DateTimeHash.h>
+#include <Utilities/DecimalClassification.h>
+#include <Utilities/DecimalHash.h>
+#include <Utilities/Internal/MixHash.h>
 #include <Utilities/IPropertyCollection/PropertyCollectionExceptions.h>
 
+#include <algorithm>
+#include <functional>
 #include <type_traits>
 #include <typeinfo>
 
@@ -18,6 +25,16 @@ bool AreSame(V const& a, V const& b)
         return a == b && a.GetFractionalDigits() == b.GetFractionalDigits();
     else
         return a == b;
+}
+
+/// What is the same has the same one. 0 for a NaN, which is the same as every number.
+template <class V>
+unsigned int FingerprintOf(V const& value)
+{
+    if constexpr (std::is_same_v<V, Decimal>)
+        if (IsNaN(value))
+            return 0;
+    return std::max(1U, static_cast<unsigned int>(MixHash(std::hash<V>()(value)) >> 33U));
 }
 
 } // namespace
@@ -58,6 +75,7 @@ ValueProperty<V>::ValueProperty(ValuePropertyInfo<V> const& info)
       m_info(info),
       m_value(info.GetDefault())
 {
+    SetFingerprint(FingerprintOf(m_value));
 }
 
 template <class V>
@@ -76,6 +94,7 @@ void ValueProperty<V>::SetValue(V const& value)
     if (collection != nullptr && collection->IsOverriden())
         throw PropertyCollectionCannotBeModifiedBecauseItIsOverriddenException();
     m_value = m_info.Accept(value);
+    SetFingerprint(FingerprintOf(m_value));
 }
 
 template <class V>
@@ -88,6 +107,7 @@ template <class V>
 void ValueProperty<V>::SetToDefault()
 {
     m_value = m_info.GetDefault();
+    SetFingerprint(FingerprintOf(m_value));
 }
 
 template <class V>
@@ -119,6 +139,7 @@ void ValueProperty<V>::OnClone(Property const& other)
     else
         m_value = m_info.Accept(source.m_value);
     Property::OnClone(other);
+    SetFingerprint(&source.m_info == &m_info ? source.m_fingerprint : FingerprintOf(m_value));
 }
 
 template <class V>

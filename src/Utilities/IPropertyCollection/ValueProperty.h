@@ -80,7 +80,8 @@ private:
     V m_value;
 };
 
-/// Throws IllegalTypeException with the type of `property`: "text", "integer" and so on.
+/// Throws IllegalTypeException with the type of `property`: "text", "integer", "decimal", "boolean", "date", "color",
+/// or the number of another one.
 [[noreturn]] VEK_API void RefuseType(Property const& property);
 
 /// The property of a ready-made kind in a collection. Throws IllegalPropertyCollectionIdException when there is none,

@@ -1,7 +1,11 @@
+#include "HookedProperty.h"
+
 #include <Exceptions/ArgumentException.h>
 #include <Utilities/IPropertyCollection/BooleanProperty.h>
 #include <Utilities/IPropertyCollection/ChangedValues.h>
 #include <Utilities/IPropertyCollection/ChoiceProperty.h>
+#include <Utilities/IPropertyCollection/ColorProperty.h>
+#include <Utilities/IPropertyCollection/DateProperty.h>
 #include <Utilities/IPropertyCollection/DecimalProperty.h>
 #include <Utilities/IPropertyCollection/IntegerProperty.h>
 #include <Utilities/IPropertyCollection/PropertyCollectionExceptions.h>
@@ -11,7 +15,9 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <memory>
+#include <random>
 
 using namespace Vek;
 using namespace Vek::Framework::Utilities;
@@ -112,15 +118,25 @@ TEST(ReadyMadeProperties, ValuesAndTypesOutsideAreRefused)
     DecimalProperty& margin = GetValueProperty<Decimal>(*collection, Margin);
     Decimal const nan = Decimal(0) / Decimal(0);
     EXPECT_THROW(margin.SetValue(nan), IllegalValueException);
-    try
-    {
-        GetValueProperty<bool>(*collection, Margin);
-        ADD_FAILURE();
-    }
-    catch (IllegalTypeException const& error)
-    {
-        EXPECT_EQ("decimal", error.GetType());
-    }
+    PropertyCollectionFactoryAccess all(factory);
+    all.AddPropertyInfo(std::make_unique<DatePropertyInfo>(6, L"", L"", DateTime()));
+    all.AddPropertyInfo(std::make_unique<ColorPropertyInfo>(7, L"", L"", ColorBase<BGRAChannel>(1, 2, 3, 4)));
+    all.AddStandardProperty(6);
+    all.AddStandardProperty(7);
+    char const* const types[] = { "text", "integer", "decimal", "boolean", "6", "date", "color" };
+    for (unsigned int kind = Printer; kind <= 7; ++kind)
+        try
+        {
+            if (kind == Duplex)
+                GetValueProperty<int>(*factory.Create(), kind);
+            else
+                GetValueProperty<bool>(*factory.Create(), kind);
+            ADD_FAILURE();
+        }
+        catch (IllegalTypeException const& error)
+        {
+            EXPECT_EQ(types[kind - 1], error.GetType());
+        }
     EXPECT_THROW(collection->GetProperty(Tray) = collection->GetProperty(Printer), ArgumentException);
     EXPECT_THROW(IntegerPropertyInfo(1, L"", L"", 0, 1, 2), IllegalValueException);
     EXPECT_THROW(IntegerPropertyInfo(1, L"", L"", 2, 3, 1), ArgumentException);
@@ -160,6 +176,72 @@ TEST(ReadyMadeProperties, DecimalsAreKeptApartByTheirDigits)
     EXPECT_EQ(L"100", Stored(*edited, Margin).GetStoredText());
     EXPECT_EQ(4u, obtain(Decimal(0)));
     EXPECT_EQ(4u, obtain(Decimal(-1) * Decimal(0))); // a zero has no sign
+}
+
+// What the library remembers of values must never hide the collection that comparing one by one finds first.
+TEST(ReadyMadeProperties, EqualCollectionsAreFoundHoweverTheirValuesCame)
+{
+    struct AnyDecimal : DecimalPropertyInfo
+    {
+        AnyDecimal() : DecimalPropertyInfo(6, L"", L"", 0, 0, 1) {}
+        Decimal Accept(Decimal const& value) const override { return value; }
+    };
+    Decimal const decimals[] = { Decimal(100), Decimal(1, 2), Decimal(15, -1), Decimal(150, -2),
+                                 Decimal(0) / Decimal(0) };
+    for (unsigned int seed = 1; seed <= 200; ++seed)
+    {
+        std::mt19937 random(seed);
+        auto const pick = [&](auto count) { return static_cast<unsigned int>(random() % count); };
+        ReadyMade factory;
+        ReadyMade wide(100);
+        PropertyCollectionFactoryAccess access(factory);
+        access.AddPropertyInfo(std::make_unique<AnyDecimal>());
+        access.AddPropertyInfo(std::make_unique<HookedKind>(7)); // a class of which nothing is known
+        for (unsigned int kind = 6; kind < 6 + seed % 3; ++kind)
+            access.AddStandardProperty(kind);
+        auto const pickRegistered = [&]() -> PropertyCollection&
+        { return factory.GetChangeablePropertyCollectionByIndex(pick(factory.GetPropertyCollectionCount())); };
+        for (int step = 0; step < 100; ++step)
+        {
+            auto const foreign = wide.Create();
+            PropertyCollection copy(pick(4) == 0 ? *foreign : pickRegistered());
+            PropertyCollection& edited = pick(2) == 0 ? copy : pickRegistered();
+            unsigned int const kind = 1 + pick(Paper);
+            switch (pick(5))
+            {
+            case 0:
+                edited.GetProperty(kind).SetToDefault();
+                break;
+            case 1:
+                edited.GetProperty(kind) = pickRegistered().GetProperty(kind);
+                break;
+            case 2:
+                GetValueProperty<long long>(edited, Tray).SetValue(pick(3));
+                break;
+            case 3: // refused behind the printer, which is put back
+                Stored(*foreign, Printer).SetStoredText(L"new");
+                Stored(*foreign, Tray).SetStoredText(L"50");
+                EXPECT_THROW(factory.ObtainPropertyCollection(*foreign, pickRegistered().GetId()),
+                             IllegalValueException);
+                break;
+            default: // which no collection holds
+                BooleanProperty(GetValueProperty<bool>(edited, Duplex)).SetValue(false);
+            }
+            if (edited.HasProperty(6))
+                GetValueProperty<Decimal>(edited, 6).SetValue(decimals[pick(std::size(decimals))]);
+            copy.SetTemplateName({});
+            PropertyCollection const* expected = nullptr;
+            auto const count = factory.GetPropertyCollectionCount();
+            for (unsigned int index = 0; expected == nullptr && index < count; ++index)
+                if (copy.ArePropertiesEqual(factory.GetChangeablePropertyCollectionByIndex(index)))
+                    expected = &factory.GetChangeablePropertyCollectionByIndex(index);
+            PropertyCollection const& found = factory.ObtainPropertyCollection(copy, PropertyCollection::c_no_id);
+            ASSERT_EQ(expected == nullptr, count != factory.GetPropertyCollectionCount()) << seed << ' ' << step;
+            ASSERT_TRUE(expected == nullptr || expected == &found) << seed << ' ' << step;
+            if (count > 9)
+                factory.Reset(false, true);
+        }
+    }
 }
 
 TEST(ReadyMadeProperties, OverriddenCollectionsAreNotChanged)

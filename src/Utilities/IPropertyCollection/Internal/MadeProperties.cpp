@@ -44,7 +44,7 @@ void MadeProperties::Commit() noexcept
     bool const hasGrown = m_target.m_properties.size() != m_sizeOfTarget;
     for (auto& property : m_made)
         if (!hasGrown || m_target.FindProperty(property->GetId()) == nullptr)
-            m_target.m_properties.push_back(std::move(property));
+            m_target.Hold(std::move(property));
 }
 
 } // namespace Vek::Framework::Utilities::IPropertyCollection::Native::Internal

@@ -3,8 +3,7 @@
 #include <Utilities/IPropertyCollection/PropertyCollection.h>
 
 #include <cstddef>
-#include <utility>
-#include <vector>
+#include <unordered_map>
 
 namespace Vek::Framework::Utilities::IPropertyCollection::Native::Internal
 {
@@ -22,7 +21,7 @@ public:
     Property* Find(unsigned int id, std::size_t likelyIndex)
     {
         auto const& properties = m_collection.m_properties;
-        if (likelyIndex < properties.size() && properties[likelyIndex]->GetId() == id)
+        if (likelyIndex < properties.size() && properties[likelyIndex]->m_id == id)
             return properties[likelyIndex].get();
         return FindElsewhere(id);
     }
@@ -31,7 +30,8 @@ private:
     Property* FindElsewhere(unsigned int id);
 
     PropertyCollection const& m_collection;
-    std::vector<std::pair<unsigned int, Property*>> m_byId; // of as many properties as it has elements
+    std::unordered_map<unsigned int, Property*> m_byId; // the first of each id
+    std::size_t m_indexed = 0;                          // properties that are in it
 };
 
 } // namespace Vek::Framework::Utilities::IPropertyCollection::Native::Internal
