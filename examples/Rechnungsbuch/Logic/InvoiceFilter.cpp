@@ -1,21 +1,15 @@
-// A filter line is cut into symbols by the library's scanner and understood by recursive descent: every rule takes the
-// symbols that belong to it.
+// A filter line is understood by recursive descent: every rule takes the symbols that belong to it.
 
 #include "InvoiceFilter.h"
 
 #include "FieldInput.h"
 #include "FilterConditions.h"
+#include "FilterSymbols.h"
 
-#include <IParser/SimpleParser.h>
-#include <Utilities/AmountText.h>
-#include <Utilities/WStringHelper.h>
-
-#include <algorithm>
 #include <optional>
 #include <utility>
 
-using namespace Vek::Framework::IParser::Native;
-using namespace Vek::Framework::Utilities;
+using Vek::Framework::Utilities::Decimal;
 using VekSysBase::VekDateEx;
 
 namespace Invoicing
@@ -24,22 +18,13 @@ namespace Invoicing
 namespace
 {
 
+// The tokens, in the order of their ids; the comparisons come first and have their own numbers.
+constexpr std::initializer_list<char const*> c_tokens = { "=", "<>", "<", "<=", ">", ">=", "(", ")" };
+
 enum Token : int
 {
-    // The comparisons are tokens under their own numbers.
-    Open = 100,
-    Close = 101,
-};
-
-constexpr std::pair<int, char const*> c_tokens[] = {
-    { static_cast<int>(Comparison::Equal), "=" },
-    { static_cast<int>(Comparison::NotEqual), "<>" },
-    { static_cast<int>(Comparison::Less), "<" },
-    { static_cast<int>(Comparison::LessOrEqual), "<=" },
-    { static_cast<int>(Comparison::Greater), ">" },
-    { static_cast<int>(Comparison::GreaterOrEqual), ">=" },
-    { Open, "(" },
-    { Close, ")" },
+    Open = static_cast<int>(Comparison::GreaterOrEqual) + 1,
+    Close,
 };
 
 constexpr std::pair<wchar_t const*, Comparison> c_datePrepositions[] = {
@@ -72,59 +57,18 @@ VekDateEx GetPaidOn(Invoice const& invoice)
     return invoice.paidOn;
 }
 
-// Thrown from within the rules and caught where reading began.
-struct Refusal
-{
-    InputFault fault;
-};
-
-[[noreturn]] void Refuse(std::size_t position, std::wstring const& text)
-{
-    throw Refusal{ { position, text } };
-}
-
-/// The scanner takes bytes and counts columns in them: in Windows-1252, with blanks for tabs and line breaks, a byte is
-/// a unit of the text, so that a column is a position.
-std::string ToSource(std::wstring text)
-{
-    for (wchar_t& unit : text)
-        if (unit == L'\t' || unit == L'\n' || unit == L'\r' || unit == L'\0')
-            unit = L' ';
-    std::string bytes;
-    unsigned long long position = 0;
-    if (!WStringHelper::TryGetWindows1252FromUTF16(text, bytes, position))
-        Refuse(position, L"Dieses Zeichen kommt in keiner Rechnung vor.");
-    return bytes;
-}
-
-std::wstring WithoutUmlauts(std::wstring const& word)
-{
-    std::wstring plain = WStringHelper::ToLowerCase(word);
-    WStringHelper::ReplaceAll(plain, L"\u00e4", L"ae");
-    WStringHelper::ReplaceAll(plain, L"\u00f6", L"oe");
-    WStringHelper::ReplaceAll(plain, L"\u00fc", L"ue");
-    return plain;
-}
-
 class FilterReader
 {
 public:
-    explicit FilterReader(std::wstring const& text) : m_size(text.size()), m_parser(false)
-    {
-        for (auto const& [id, token] : c_tokens)
-            m_parser.AddToken(id, token, "", true);
-        m_parser.SetCommentToken("");
-        m_parser.ProvideSource(ToSource(text));
-        Advance();
-    }
+    explicit FilterReader(std::wstring const& line) : m_symbols(line, c_tokens) {}
 
     InvoiceFilter Read()
     {
-        if (IsAtEnd())
+        if (m_symbols.IsAtEnd())
             return AllOf({});
         InvoiceFilter filter = ReadAlternatives();
-        if (!IsAtEnd())
-            Fail(L"Hier wird \u201eund\u201c oder \u201eoder\u201c erwartet.");
+        if (!m_symbols.IsAtEnd())
+            m_symbols.Refuse(L"Hier wird \u201eund\u201c oder \u201eoder\u201c erwartet.");
         return filter;
     }
 
@@ -132,7 +76,7 @@ private:
     InvoiceFilter ReadAlternatives()
     {
         std::vector<InvoiceFilter> filters{ ReadConditions() };
-        while (TakeWord(L"oder"))
+        while (m_symbols.TakeWord(L"oder"))
             filters.push_back(ReadConditions());
         return filters.size() == 1 ? filters[0] : AnyOf(std::move(filters));
     }
@@ -140,7 +84,7 @@ private:
     InvoiceFilter ReadConditions()
     {
         std::vector<InvoiceFilter> filters{ ReadCondition() };
-        while (TakeWord(L"und"))
+        while (m_symbols.TakeWord(L"und"))
             filters.push_back(ReadCondition());
         return filters.size() == 1 ? filters[0] : AllOf(std::move(filters));
     }
@@ -148,7 +92,7 @@ private:
     InvoiceFilter ReadCondition()
     {
         if (++m_depth > c_greatest_depth)
-            Fail(L"Die Bedingungen sind zu tief verschachtelt.");
+            m_symbols.Refuse(L"Die Bedingungen sind zu tief verschachtelt.");
         InvoiceFilter filter = ReadNested();
         --m_depth;
         return filter;
@@ -156,56 +100,55 @@ private:
 
     InvoiceFilter ReadNested()
     {
-        if (TakeWord(L"nicht"))
+        if (m_symbols.TakeWord(L"nicht"))
             return Not(ReadCondition());
-        if (!TakeToken(Open))
+        if (!m_symbols.TakeToken(Open))
             return ReadSimple();
         InvoiceFilter filter = ReadAlternatives();
-        if (!TakeToken(Close))
-            Fail(L"Hier fehlt eine schlie\u00dfende Klammer.");
+        if (!m_symbols.TakeToken(Close))
+            m_symbols.Refuse(L"Hier fehlt eine schlie\u00dfende Klammer.");
         return filter;
     }
 
     InvoiceFilter ReadSimple()
     {
-        if (m_symbol.GetSymbolType() == Symbol::Text)
+        if (m_symbols.IsQuoted())
             return ContainsAnywhere(TakeText());
-        if (TakeWord(L"Kunde"))
+        if (m_symbols.TakeWord(L"Kunde"))
             return ReadTextCondition(GetCustomer);
-        if (TakeWord(L"Nummer"))
+        if (m_symbols.TakeWord(L"Nummer"))
             return ReadTextCondition(GetNumber);
-        if (TakeWord(L"Betrag"))
+        if (m_symbols.TakeWord(L"Betrag"))
             return ReadAmountCondition();
-        if (TakeWord(L"offen"))
+        if (m_symbols.TakeWord(L"offen"))
             return IsOpen();
-        if (TakeWord(L"ueberfaellig"))
+        if (m_symbols.TakeWord(L"\u00fcberf\u00e4llig"))
             return HasState(InvoiceState::Overdue);
-        if (TakeWord(L"Datum"))
+        if (m_symbols.TakeWord(L"Datum"))
             return ReadDateCondition(GetDate);
-        if (TakeWord(L"faellig"))
+        if (m_symbols.TakeWord(L"f\u00e4llig"))
             return ReadDateCondition(GetDue);
-        if (TakeWord(L"bezahlt"))
+        if (m_symbols.TakeWord(L"bezahlt"))
             return FindPreposition() ? ReadDateCondition(GetPaidOn) : HasState(InvoiceState::Paid);
-        Fail(L"Hier wird eine Bedingung erwartet: Kunde, Nummer, Betrag, Datum, f\u00e4llig, offen, "
-             L"\u00fcberf\u00e4llig, "
-             L"bezahlt oder ein Text in Anf\u00fchrungszeichen.");
+        m_symbols.Refuse(L"Hier wird eine Bedingung erwartet: Kunde, Nummer, Betrag, Datum, f\u00e4llig, offen, "
+                         L"\u00fcberf\u00e4llig, bezahlt oder ein Text in Anf\u00fchrungszeichen.");
     }
 
     InvoiceFilter ReadTextCondition(TextOf textOf)
     {
-        if (TakeToken(static_cast<int>(Comparison::Equal)))
+        if (m_symbols.TakeToken(static_cast<int>(Comparison::Equal)))
             return Equals(textOf, TakeText());
-        if (TakeToken(static_cast<int>(Comparison::NotEqual)))
+        if (m_symbols.TakeToken(static_cast<int>(Comparison::NotEqual)))
             return Not(Equals(textOf, TakeText()));
         return Contains(textOf, TakeText());
     }
 
     InvoiceFilter ReadAmountCondition()
     {
-        int const token = m_symbol.GetTokenId();
+        int const token = m_symbols.GetToken();
         if (token < 0 || token >= Open)
-            Fail(L"Hinter \u201eBetrag\u201c wird =, <>, <, <=, > oder >= erwartet.");
-        Advance();
+            m_symbols.Refuse(L"Hinter \u201eBetrag\u201c wird =, <>, <, <=, > oder >= erwartet.");
+        m_symbols.Advance();
         return CompareGross(static_cast<Comparison>(token), TakeAmount());
     }
 
@@ -213,108 +156,52 @@ private:
     {
         std::optional<Comparison> const comparison = FindPreposition();
         if (!comparison)
-            Fail(
-                L"Hier wird \u201evor\u201c, \u201ebis\u201c, \u201eam\u201c, \u201eab\u201c oder \u201enach\u201c und "
-                L"ein Datum erwartet.");
-        Advance();
-        RequireWord(L"Hier wird ein Datum wie 5.3.2024 erwartet.");
+            m_symbols.Refuse(L"Hier wird \u201evor\u201c, \u201ebis\u201c, \u201eam\u201c, \u201eab\u201c oder "
+                             L"\u201enach\u201c und ein Datum erwartet.");
+        m_symbols.Advance();
         VekDateEx date;
         InputFault fault;
-        if (!TryReadDate(GetText(), date, fault))
-            Refuse(GetPosition() + fault.position, fault.text);
-        Advance();
+        if (!TryReadDate(m_symbols.GetText(L"Hier wird ein Datum wie 5.3.2024 erwartet."), date, fault))
+            m_symbols.Refuse(fault.text, fault.position);
+        m_symbols.Advance();
         return CompareDate(dateOf, *comparison, date);
     }
 
     std::optional<Comparison> FindPreposition() const
     {
         for (auto const& [word, comparison] : c_datePrepositions)
-            if (IsWord(word))
+            if (m_symbols.IsWord(word))
                 return comparison;
         return std::nullopt;
     }
 
     std::wstring TakeText()
     {
-        bool const isQuoted = m_symbol.GetSymbolType() == Symbol::Text;
-        if (isQuoted && m_symbol.GetState() == Symbol::Unterminated)
-            Refuse(m_size, L"Am Ende fehlt ein Anf\u00fchrungszeichen.");
-        if (!isQuoted)
-            RequireWord(L"Hier wird ein Text erwartet.");
-        std::wstring const text = GetText();
+        std::wstring const expectation = L"Hier wird ein Text erwartet.";
+        std::wstring text = m_symbols.GetText(expectation);
         if (text.empty())
-            Fail(L"Hier wird ein Text erwartet.");
-        Advance();
+            m_symbols.Refuse(expectation);
+        m_symbols.Advance();
         return text;
     }
 
     // 1.234 is no amount that can be told from a small one; here it always has thousands.
     Decimal TakeAmount()
     {
-        RequireWord(L"Hier wird ein Betrag wie 1.000 oder 12,50 erwartet.");
-        std::wstring const text = GetText();
+        std::wstring const text = m_symbols.GetText(L"Hier wird ein Betrag wie 1.000 oder 12,50 erwartet.");
+        bool const isWhole = text.find(L',') == std::wstring::npos;
         Decimal amount;
         InputFault fault;
-        AmountFault ignored;
-        bool const isGroupedOnly =
-            text.find(L',') == std::wstring::npos && TryParseAmount(text + L",00", amount, ignored);
-        if (!isGroupedOnly && !TryReadAmount(text, amount, fault))
-            Refuse(GetPosition() + fault.position, fault.text);
-        Advance();
+        InputFault ofWhole;
+        if (!TryReadAmount(text, amount, fault) && !(isWhole && TryReadAmount(text + L",00", amount, ofWhole)))
+            m_symbols.Refuse(fault.text, fault.position);
+        m_symbols.Advance();
         return amount;
     }
 
-    void RequireWord(std::wstring const& text) const
-    {
-        bool const isWord =
-            m_symbol.GetSymbolType() == Symbol::Identifier || m_symbol.GetSymbolType() == Symbol::Number;
-        if (!isWord)
-            Fail(text);
-    }
-
-    bool IsAtEnd() const { return m_symbol.GetSymbolType() == Symbol::Undefined; }
-
-    bool IsWord(std::wstring const& word) const
-    {
-        return m_symbol.GetSymbolType() == Symbol::Identifier && WithoutUmlauts(GetText()) == WithoutUmlauts(word);
-    }
-
-    bool TakeWord(std::wstring const& word)
-    {
-        bool const isThere = IsWord(word);
-        if (isThere)
-            Advance();
-        return isThere;
-    }
-
-    bool TakeToken(int token)
-    {
-        bool const isThere = m_symbol.GetTokenId() == token;
-        if (isThere)
-            Advance();
-        return isThere;
-    }
-
-    void Advance() { m_parser.GetNextSymbol(m_symbol); }
-
-    std::wstring GetText() const { return WStringHelper::GetUTF16FromWindows1252(m_symbol.GetText()); }
-
-    /// Where the symbol begins; a quoted one, whose column is that of its closing quote, behind the opening one.
-    std::size_t GetPosition() const
-    {
-        if (IsAtEnd())
-            return m_size;
-        std::size_t const column = static_cast<std::size_t>(m_symbol.GetColumn()) - 1;
-        return m_symbol.GetSymbolType() == Symbol::Text ? column - m_symbol.GetText().size() : column;
-    }
-
-    [[noreturn]] void Fail(std::wstring const& text) const { Refuse(GetPosition(), text); }
-
     static constexpr int c_greatest_depth = 100;
 
-    std::size_t m_size;
-    SimpleParser m_parser;
-    Symbol m_symbol;
+    FilterSymbols m_symbols;
     int m_depth = 0;
 };
 
@@ -327,7 +214,7 @@ bool TryReadFilter(std::wstring const& text, InvoiceFilter& filter, InputFault& 
         filter = FilterReader(text).Read();
         return true;
     }
-    catch (Refusal const& refusal)
+    catch (FilterRefusal const& refusal)
     {
         fault = refusal.fault;
         return false;
