@@ -41,7 +41,8 @@ private:
         return true;
     }
 
-    unsigned FindMapped(__m128i bytes) const noexcept;
+    void DecodeMapped(std::string const& text, std::size_t at, std::size_t end, std::wstring& result) const noexcept;
+    __m128i MarkMapped(__m128i bytes) const noexcept;
     unsigned FindMapped(__m128i low, __m128i high) const noexcept;
     wchar_t DecodeByte(char byte) const noexcept;
     char EncodeUnit(wchar_t unit);

@@ -1,7 +1,9 @@
+#include <Platform/Utf8Blocks.h>
 #include <Platform/WideBlock.h>
 #include <Utilities/Internal/Surrogates.h>
 #include <Utilities/WStringHelper.h>
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <stdexcept>
@@ -32,36 +34,74 @@ unsigned char const* GetBytes(std::string const& text) noexcept
     return reinterpret_cast<unsigned char const*>(text.data());
 }
 
-/// Decodes UTF-8 into room for as many units as there are bytes: no sequence gives more.
+bool IsAscii(std::string const& text) noexcept
+{
+    auto const size = static_cast<std::ptrdiff_t>(text.size());
+    std::ptrdiff_t at = 0;
+    for (; size - at >= 4 * c_blockSize; at += 4 * c_blockSize)
+    {
+        __m128i bytes = _mm_setzero_si128();
+        for (std::ptrdiff_t block = 0; block < 4; ++block)
+            bytes = _mm_or_si128(bytes, Platform::LoadBytes(text.data() + at + block * c_blockSize));
+        if (Platform::GetSignBits(bytes) != 0)
+            return false;
+    }
+    return std::all_of(text.begin() + at, text.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
+/// A result lives longer than the conversion: what is much more than it needs is given back.
+template <class Text>
+void DropSpareMemory(Text& text)
+{
+    constexpr std::size_t c_small = 256;
+    if (text.capacity() - text.size() > c_small + text.size() / 4)
+        text.shrink_to_fit();
+}
+
+/// Decodes UTF-8 piece by piece: what the text gains in size is written while the first-level cache still has it.
 class Utf8Decoder
 {
 public:
-    Utf8Decoder(std::string const& text, wchar_t* target) noexcept
-        : m_at(GetBytes(text)),
-          m_end(m_at + text.size()),
-          m_target(target)
-    {
-    }
+    explicit Utf8Decoder(std::string const& text) noexcept : m_at(GetBytes(text)), m_end(m_at + text.size()) {}
 
-    /// False at the first malformed sequence, where GetPosition stays.
-    bool Run()
+    /// Appends the units to `units`. False at the first malformed sequence, where GetPosition stays.
+    bool Run(std::wstring& units)
     {
+        units.reserve(static_cast<std::size_t>(m_end - m_at)); // no sequence gives more
         bool isWellFormed = true;
-        while (isWellFormed && m_end - m_at >= c_blockSize)
-        {
-            WidenAscii();
-            while (isWellFormed && m_at != m_end && *m_at >= 0x80)
-                isWellFormed = DecodeCharacter();
-        }
         while (isWellFormed && m_at != m_end)
-            isWellFormed = DecodeCharacter();
+        {
+            std::size_t const start = units.size();
+            m_pieceEnd = m_at + std::min(m_end - m_at, c_pieceSize);
+            units.resize(start + static_cast<std::size_t>(std::min(m_end - m_at, c_pieceSize + c_longestTrail)));
+            m_target = units.data() + start;
+            isWellFormed = DecodePiece();
+            units.resize(static_cast<std::size_t>(m_target - units.data()));
+        }
         return isWellFormed;
     }
 
     unsigned char const* GetPosition() const noexcept { return m_at; }
-    wchar_t* GetTarget() const noexcept { return m_target; }
 
 private:
+    static constexpr std::ptrdiff_t c_pieceSize = 2048;
+    static constexpr std::ptrdiff_t c_longestTrail = 3; // the last sequence of a piece may end behind it
+
+    bool DecodePiece()
+    {
+        bool isWellFormed = true;
+        while (isWellFormed && m_pieceEnd - m_at >= c_blockSize)
+        {
+            WidenAscii();
+            while (isWellFormed && m_at < m_pieceEnd && *m_at >= 0x80)
+                isWellFormed = DecodeCharacter();
+        }
+        while (isWellFormed && m_at < m_pieceEnd)
+            isWellFormed = DecodeCharacter();
+        return isWellFormed;
+    }
+
     /// Takes the bytes before the next other character, or all but the last few: stores sixteen units without asking
     /// and keeps those before the first other one. Locals, since the stores might else change the fields.
     void WidenAscii()
@@ -69,7 +109,7 @@ private:
         unsigned char const* at = m_at;
         wchar_t* target = m_target;
         unsigned others = 0;
-        for (; others == 0 && m_end - at >= c_blockSize; at += c_blockSize, target += c_blockSize)
+        for (; others == 0 && m_pieceEnd - at >= c_blockSize; at += c_blockSize, target += c_blockSize)
         {
             __m128i const bytes = Platform::LoadBytes(at);
             Platform::StoreWidened(target, bytes);
@@ -140,8 +180,9 @@ private:
     void Append(unsigned unit) noexcept { *m_target++ = static_cast<wchar_t>(unit); }
 
     unsigned char const* m_at;
+    unsigned char const* m_pieceEnd = nullptr;
     unsigned char const* m_end;
-    wchar_t* m_target;
+    wchar_t* m_target = nullptr;
 };
 
 /// Encodes units piece by piece into a buffer, since only the end tells how many bytes they give.
@@ -163,11 +204,12 @@ public:
             EncodePiece();
             result.append(m_buffer, GetPieceSize());
         }
+        DropSpareMemory(result);
         return result;
     }
 
 private:
-    static constexpr std::ptrdiff_t c_bufferSize = 2048;
+    static constexpr std::ptrdiff_t c_pieceSize = 1024; // units
 
     std::size_t GetPieceSize() const noexcept { return static_cast<std::size_t>(m_target - m_buffer); }
 
@@ -183,35 +225,17 @@ private:
     void EncodePiece()
     {
         m_target = m_buffer;
-        while (m_end - m_at >= c_blockSize && HasRoom(m_target))
+        wchar_t const* const end = m_at + std::min(m_end - m_at, c_pieceSize);
+        while (m_at < end)
         {
-            NarrowAscii();
-            while (m_at != m_end && Platform::ToUnsigned(*m_at) >= 0x80 && HasRoom(m_target))
+            auto const [units, bytes] =
+                Platform::EncodeUtf8Blocks(m_at, static_cast<std::size_t>(end - m_at), m_target);
+            m_at += units;
+            m_target += bytes;
+            // Then a block that has to be looked at unit by unit.
+            for (wchar_t const* blockEnd = m_at + std::min(end - m_at, c_blockSize); m_at < blockEnd;)
                 EncodeCharacter();
         }
-        while (m_at != m_end && HasRoom(m_target))
-            EncodeCharacter();
-    }
-
-    bool HasRoom(char const* target) const noexcept { return m_buffer + c_bufferSize - target >= c_blockSize; }
-
-    /// The same way as Utf8Decoder::WidenAscii, as far as there is room.
-    void NarrowAscii()
-    {
-        wchar_t const* at = m_at;
-        char* target = m_target;
-        unsigned others = 0;
-        for (; others == 0 && m_end - at >= c_blockSize && HasRoom(target); at += c_blockSize, target += c_blockSize)
-        {
-            __m128i const low = Platform::LoadUnits(at);
-            __m128i const high = Platform::LoadUnits(at + c_blockSize / 2);
-            Platform::StoreBytes(target, _mm_packus_epi16(low, high));
-            __m128i const ascii = _mm_set1_epi16(0x7F);
-            others = 0xFFFFU & ~Platform::GetZeroBits(_mm_andnot_si128(ascii, low), _mm_andnot_si128(ascii, high));
-        }
-        std::ptrdiff_t const surplus = others == 0 ? 0 : c_blockSize - std::countr_zero(others);
-        m_at = at - surplus;
-        m_target = target - surplus;
     }
 
     void EncodeCharacter()
@@ -252,7 +276,8 @@ private:
     wchar_t const* m_at;
     wchar_t const* m_end;
     char* m_target = nullptr;
-    char m_buffer[c_bufferSize];
+    // Three bytes of each unit at most, four of the pair that the last one may be the half of.
+    char m_buffer[3 * c_pieceSize + 1];
 };
 
 } // namespace
@@ -268,14 +293,20 @@ std::wstring WStringHelper::GetUTF16FromUTF8(std::string const& text)
 bool WStringHelper::TryGetUTF16FromUTF8(std::string const& text, std::wstring& result,
                                         unsigned long long& errorPosition)
 {
-    std::wstring units(text.size(), L'\0');
-    Utf8Decoder decoder(text, units.data());
-    if (!decoder.Run())
+    if (IsAscii(text))
+    {
+        // Made by its constructor: filling it first would store every unit twice.
+        result = std::wstring(GetBytes(text), GetBytes(text) + text.size());
+        return true;
+    }
+    Utf8Decoder decoder(text);
+    std::wstring units;
+    if (!decoder.Run(units))
     {
         errorPosition = static_cast<unsigned long long>(decoder.GetPosition() - GetBytes(text));
         return false;
     }
-    units.resize(static_cast<std::size_t>(decoder.GetTarget() - units.data()));
+    DropSpareMemory(units);
     result = std::move(units);
     return true;
 }

@@ -95,6 +95,38 @@ TEST(WStringHelperConversion, EveryCharacterThroughUtf8AndBack)
     EXPECT_TRUE(WStringHelper::GetUTF8FromUTF16(utf16) == utf8);
 }
 
+TEST(WStringHelperConversion, Utf8OfEveryMixtureInABlock)
+{
+    unsigned const others[] = { 0x80, 0x7FF, 0x800, 0xD83D };
+    for (unsigned mask = 0; mask < 0x10000; ++mask)
+    {
+        std::wstring units(mask % 3, L'x');
+        std::string expected(mask % 3, 'x');
+        for (unsigned unit = 0; unit < 16; ++unit)
+        {
+            bool const isOther = (mask >> unit & 1) != 0;
+            // Above 0x7FF only now and then: most blocks have one or two bytes a unit.
+            unsigned const other = others[mask % 7 == 0 ? unit % 4 : unit % 2];
+            unsigned const character = !isOther ? 'a' + unit : other == 0xD83D ? 0x1F600 : other;
+            AppendUtf16(units, character);
+            AppendUtf8(expected, character);
+        }
+        ASSERT_EQ(expected, WStringHelper::GetUTF8FromUTF16(units)) << mask;
+        ASSERT_EQ(units, WStringHelper::GetUTF16FromUTF8(expected)) << mask;
+    }
+}
+
+TEST(WStringHelperConversion, ConvertedTextKeepsLittleMemoryToSpare)
+{
+    std::wstring const signs(1500, static_cast<wchar_t>(0x20AC));
+    std::wstring const text = signs + std::wstring(100'000, L'x');
+    std::string const bytes = WStringHelper::GetUTF8FromUTF16(text); // begins with three bytes a unit
+    EXPECT_LT(bytes.capacity(), bytes.size() + bytes.size() / 3);
+    std::wstring const units = WStringHelper::GetUTF16FromUTF8(WStringHelper::GetUTF8FromUTF16(signs));
+    EXPECT_EQ(signs, units);
+    EXPECT_LT(units.capacity(), units.size() + units.size() / 2);
+}
+
 TEST(WStringHelperConversion, Utf8DecoderAgreesWithThePlainRuleOnEdgeBytes)
 {
     unsigned char const edges[] = { 0x41, 0x7F, 0x80, 0x8F, 0x90, 0x9F, 0xA0, 0xBF, 0xC1,
