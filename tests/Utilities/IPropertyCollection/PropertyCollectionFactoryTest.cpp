@@ -23,14 +23,25 @@ TEST(PropertyCollectionFactory, FilledByAccess)
     access.AddStandardProperty(2);
     EXPECT_EQ("1:5 2:20", Values(other));
 
+    struct Wrong : HookedKind
+    {
+        using HookedKind::HookedKind;
+        std::shared_ptr<Property> CreateProperty() const override
+        {
+            static HookedKind const one(1);
+            return one.CreateProperty();
+        }
+    };
     auto broken = std::make_unique<HookedKind>(4);
     broken->isBroken = true;
     access.AddPropertyInfo(std::move(broken));
+    access.AddPropertyInfo(std::make_unique<Wrong>(5));
     EXPECT_THROW(access.AddStandardProperty(4), InvalidStateException);
+    EXPECT_THROW(access.AddStandardProperty(5), InvalidStateException);
     EXPECT_EQ("1:5 2:20", Values(other));
     std::string ids;
     access.ForEachPropertyInfo([&](PropertyInfo const& info) { ids += std::to_string(info.GetId()); });
-    EXPECT_EQ("124", ids);
+    EXPECT_EQ("1245", ids);
 }
 
 TEST(PropertyCollectionFactory, Lookups)

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <random>
+#include <sstream>
 
 using namespace Vek::Framework::Utilities::IPropertyCollection::Native;
 
@@ -37,6 +38,8 @@ public:
         operation < std::size(c_operation_of) ? (this->*c_operation_of[operation])() : Obtain();
     }
 
+    std::string GetOperations() const { return m_operations.str(); }
+
     bool IsRight()
     {
         std::size_t index = 0;
@@ -55,6 +58,14 @@ private:
     unsigned int Pick(unsigned int count) { return static_cast<unsigned int>(m_random() % count); }
     std::wstring PickName() { return std::array{ L"", L"a", L"b", L"standard" }[Pick(4)]; }
     std::size_t PickIndex() { return Pick(static_cast<unsigned int>(m_plain.all.size())); }
+    /// A line of the operations that a failing run prints.
+    template <class... Parts>
+    void Note(Parts const&... parts)
+    {
+        m_operations << '\n';
+        ((m_operations << parts << ' '), ...);
+    }
+    static std::string Narrow(std::wstring const& name) { return '"' + std::string(name.begin(), name.end()) + '"'; }
     template <class Action>
     void Answer(Action const& action)
     {
@@ -104,6 +115,8 @@ private:
         auto const source = MakeSource();
         unsigned int const id = Pick(3) == 0 ? Pick(16) : PropertyCollection::c_no_id;
         PlainCollection const plain = PlainOf(*source);
+        Note("obtain", Narrow(plain.name), plain.isOverriden ? "overridden" : "", plain.isDeletable ? "" : "protected",
+             Values(*source), "under", static_cast<int>(id));
         m_expected = m_plain.Obtain(plain, id);
         Answer([&] { return std::to_string(m_factory.ObtainPropertyCollection(*source, id).GetId()); });
     }
@@ -113,6 +126,7 @@ private:
         std::size_t const index = PickIndex();
         m_plain.all[index].isOverriden = Pick(2) == 0;
         m_plain.all[index].isDeletable = Pick(2) == 0;
+        Note("flags of", index, m_plain.all[index].isOverriden, m_plain.all[index].isDeletable);
         PropertyCollection& real = m_factory.GetChangeablePropertyCollectionByIndex(index);
         real.SetIsOverriden(m_plain.all[index].isOverriden);
         real.SetDeletable(m_plain.all[index].isDeletable);
@@ -122,6 +136,7 @@ private:
     {
         std::wstring const from = PickName(), to = PickName();
         bool const isConversion = Pick(3) == 0;
+        Note(isConversion ? "convert" : "rename", Narrow(from), isConversion ? "" : Narrow(to));
         m_expected = isConversion ? m_plain.SetName(from, {}, false) : m_plain.Rename(from, to);
         Answer(
             [&]
@@ -138,6 +153,7 @@ private:
     {
         unsigned int const kept = Pick(4);
         bool const keepTemplates = Pick(2) == 0, includeNonDeletable = Pick(2) == 0;
+        Note("clean up but", kept, keepTemplates, includeNonDeletable);
         m_plain.CleanUp(kept, keepTemplates, includeNonDeletable);
         m_factory.CleanUp([=](auto& collection) { return collection.GetId() % 3 == kept; }, keepTemplates,
                           includeNonDeletable);
@@ -146,6 +162,7 @@ private:
     void Reset()
     {
         bool const keepTemplates = Pick(2) == 0, includeNonDeletable = Pick(2) == 0;
+        Note("reset", keepTemplates, includeNonDeletable);
         m_plain.Reset(keepTemplates, includeNonDeletable);
         m_factory.Reset(keepTemplates, includeNonDeletable);
     }
@@ -155,7 +172,9 @@ private:
         std::size_t const index = Pick(3);
         char const name = "ABC"[index];
         std::size_t const at = m_plain.observers.find(name);
-        if (at != std::string::npos && Pick(2) == 0)
+        bool const leaves = at != std::string::npos && Pick(2) == 0;
+        Note(leaves ? "unregister" : "register", name);
+        if (leaves)
         {
             m_plain.observers.erase(at, 1);
             m_factory.UnregisterObserver(m_observers[index]);
@@ -171,6 +190,7 @@ private:
         if (m_kinds == 4)
             return;
         unsigned int const kind = ++m_kinds;
+        Note("add kind", kind);
         bool const isThere = m_plain.all[0].Find(kind) != nullptr; // an assignment has brought it
         m_expected = isThere ? "ArgumentException" : "";
         for (PlainCollection& plain : m_plain.all)
@@ -192,10 +212,12 @@ private:
         auto& [kind, value] =
             m_plain.all[index].values[Pick(static_cast<unsigned int>(m_plain.all[index].values.size()))];
         value = static_cast<int>(Pick(3));
+        Note("edit", index, kind, value);
         ValueOf(m_factory.GetChangeablePropertyCollectionByIndex(index), kind) = value;
     }
 
     std::mt19937 m_random;
+    std::ostringstream m_operations;
     HookedFactory m_factory{ { 1, 2, 3, 4 }, 4 };
     HookedFactory m_foreign{ 4, 2 };
     unsigned int m_kinds = 0; // that are standard properties
@@ -217,7 +239,7 @@ TEST(PropertyCollectionModel, RandomOperationsAgreeWithThePlainRules)
         for (unsigned int step = 0; step < c_operations; ++step)
         {
             run.Step();
-            ASSERT_TRUE(run.IsRight()) << "seed " << seed << " step " << step;
+            ASSERT_TRUE(run.IsRight()) << "seed " << seed << " step " << step << run.GetOperations();
         }
     }
 }
