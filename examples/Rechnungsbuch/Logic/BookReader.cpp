@@ -5,6 +5,7 @@
 #include "BookDocument.h"
 
 #include "DocumentValues.h"
+#include "InvoiceCheck.h"
 
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLStreamer.h>
@@ -151,10 +152,9 @@ bool BookReader::AddLine(std::string const& content)
 
 bool BookReader::AddInvoice()
 {
-    if (m_invoice.lines.empty())
-        return Refuse(Code::MissingValue, L"Die Rechnung hat keine Zeile.");
-    if (m_invoice.IsPaid() && m_invoice.paidOn < m_invoice.date)
-        return Refuse(Code::InvalidValue, L"Die Rechnung ist vor ihrem Datum bezahlt.");
+    std::wstring message;
+    if (!CheckInvoice(m_invoice, message))
+        return Refuse(m_invoice.lines.empty() ? Code::MissingValue : Code::InvalidValue, message);
     if (!m_numbers.insert(WStringHelper::ToLowerCase(m_invoice.number)).second)
         return Refuse(Code::DuplicateNumber,
                       L"Die Rechnungsnummer \u201e" + m_invoice.number + L"\u201c kommt zweimal vor.");

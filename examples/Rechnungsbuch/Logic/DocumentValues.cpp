@@ -67,7 +67,7 @@ std::wstring FormatStoredAmount(Decimal const& amount)
 bool TryReadStoredAmount(std::wstring const& text, Decimal& amount, std::wstring& message)
 {
     Decimal read;
-    if (!TryReadDecimal(text, FormatStoredAmount, read) || read >= Decimal(1, 9) || read <= Decimal(-1, 9))
+    if (!TryReadDecimal(text, FormatStoredAmount, read) || !IsAmount(read))
         return Refuse(message, L"Ung\u00fcltiger Betrag", text);
     amount = read;
     return true;
@@ -81,7 +81,7 @@ std::wstring FormatStoredRate(Decimal const& rate)
 bool TryReadStoredRate(std::wstring const& text, Decimal& rate, std::wstring& message)
 {
     Decimal read;
-    if (!TryReadDecimal(text, FormatStoredRate, read) || read < 0 || read > 100)
+    if (!TryReadDecimal(text, FormatStoredRate, read) || !IsTaxRate(read))
         return Refuse(message, L"Ung\u00fcltiger Steuersatz", text);
     rate = read;
     return true;

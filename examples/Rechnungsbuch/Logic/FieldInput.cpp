@@ -130,10 +130,20 @@ bool TryReadAmount(std::wstring const& text, Decimal& amount, InputFault& fault)
     Decimal read;
     if (!TryReadDecimal(text, read, fault))
         return false;
-    if (read >= Decimal(1, 9) || read <= Decimal(-1, 9))
+    if (!IsAmount(read))
         return Fail(fault, 0, L"Ein Betrag hat h\u00f6chstens neun Ziffern vor dem Komma.");
     amount = read;
     return true;
+}
+
+bool IsAmount(Decimal const& amount)
+{
+    return amount < Decimal(1, 9) && amount > Decimal(-1, 9);
+}
+
+bool IsTaxRate(Decimal const& percent)
+{
+    return percent >= 0 && percent <= 100;
 }
 
 bool TryReadTaxRate(std::wstring const& text, Decimal& percent, InputFault& fault)
@@ -144,7 +154,7 @@ bool TryReadTaxRate(std::wstring const& text, Decimal& percent, InputFault& faul
     Decimal read;
     if (!TryReadDecimal(number, read, fault))
         return false;
-    if (read < 0 || read > 100)
+    if (!IsTaxRate(read))
         return Fail(fault, 0, L"Ein Steuersatz liegt zwischen 0 und 100 %.");
     percent = read;
     return true;

@@ -31,6 +31,11 @@ bool TryReadNumber(std::wstring const& text, InvoiceBook const& book, std::wstri
 /// An amount such as -1.234,50 with up to two fraction digits, between -999.999.999,99 and 999.999.999,99; it has two.
 bool TryReadAmount(std::wstring const& text, Vek::Framework::Utilities::Decimal& amount, InputFault& fault);
 
+/// Whether a number lies within these limits.
+bool IsAmount(Vek::Framework::Utilities::Decimal const& amount);
+/// 0 to 100.
+bool IsTaxRate(Vek::Framework::Utilities::Decimal const& percent);
+
 /// A rate such as 20, 20 % or 5,5, from 0 to 100 with up to two fraction digits.
 bool TryReadTaxRate(std::wstring const& text, Vek::Framework::Utilities::Decimal& percent, InputFault& fault);
 

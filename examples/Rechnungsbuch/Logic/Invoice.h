@@ -21,7 +21,7 @@ struct InvoiceLine
     bool operator==(InvoiceLine const&) const = default;
 };
 
-/// A plain value; what it must hold, FieldInput.h checks.
+/// A plain value; what it must hold, CheckInvoice says.
 struct Invoice
 {
     std::wstring number; ///< unique in a book, whatever the case of its letters

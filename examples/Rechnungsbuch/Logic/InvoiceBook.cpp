@@ -1,5 +1,7 @@
 #include "InvoiceBook.h"
 
+#include "InvoiceCheck.h"
+
 #include <Utilities/WStringHelper.h>
 
 #include <algorithm>
@@ -42,6 +44,9 @@ InvoiceBook::CommandResult InvoiceBook::Add(Invoice const& invoice)
 {
     if (Find(invoice.number) != nullptr)
         return RefuseTaken(invoice.number);
+    std::wstring message;
+    if (!CheckInvoice(invoice, message))
+        return CommandResult::Error(message);
     return Do(L"Rechnung " + invoice.number + L" anlegen", { m_invoices.size(), std::nullopt, invoice });
 }
 
@@ -72,8 +77,6 @@ InvoiceBook::CommandResult InvoiceBook::MarkPaid(std::wstring const& number, Vek
     Invoice invoice = m_invoices[index];
     if (!paidOn.IsZero() && invoice.IsPaid())
         return CommandResult::Error(L"Die Rechnung \u201e" + number + L"\u201c ist schon bezahlt.");
-    if (!paidOn.IsZero() && paidOn < invoice.date)
-        return CommandResult::Error(L"Eine Rechnung wird nicht vor ihrem Datum bezahlt.");
     invoice.paidOn = paidOn;
     return ReplaceAt(index,
                      paidOn.IsZero() ? L"Zahlung von Rechnung " + number + L" zur\u00fccknehmen"
@@ -134,6 +137,9 @@ InvoiceBook::CommandResult InvoiceBook::ReplaceAt(std::size_t index, std::wstrin
 {
     if (invoice == m_invoices[index])
         return CommandResult::Success();
+    std::wstring message;
+    if (!CheckInvoice(invoice, message))
+        return CommandResult::Error(message);
     return Do(text, { index, m_invoices[index], invoice });
 }
 

@@ -20,8 +20,9 @@ namespace Invoicing
 ///
 /// Order:   as in the file; what is added stands at the end.
 /// Numbers: are compared without regard to case.
-/// Edits:   answer a German text for the user when the book does not allow them, and leave it unchanged then. An edit
-///          that changes nothing is none. Each is one step of the history, with a text for the menu.
+/// Edits:   answer a German text for the user when the book does not allow them, and leave it unchanged then; so an
+///          invoice that could not be saved and read again (InvoiceCheck.h) does not get in. An edit that changes
+///          nothing is none. Each is one step of the history, with a text for the menu.
 /// Event:   raised after each change, be it by an edit, by undoing, or by Reset.
 class InvoiceBook : private Vek::Framework::ICommandProcessor::Native::CommandSupplier
 {
@@ -61,7 +62,8 @@ public:
 
     /// @}
 
-    /// Other invoices, as saved, and a history without steps. The numbers must be different.
+    /// Other invoices, as saved, and a history without steps. Their numbers must be different, and they as CheckInvoice
+    /// says.
     void Reset(std::vector<Invoice> invoices);
 
     Vek::Framework::Utilities::Event<InvoiceBook const&> const& GetChangedEvent() const noexcept { return m_changed; }

@@ -2,6 +2,7 @@
 
 #include "FieldInput.h"
 #include "InvoiceBook.h"
+#include "InvoiceCheck.h"
 
 #include <SysBase/VekDateText.h>
 #include <Utilities/AmountText.h>
@@ -55,9 +56,13 @@ public:
         return tryRead(fault) || Fail(field, fault);
     }
 
-    bool Require(bool isAllowed, DraftField field, wchar_t const* text)
+    /// What concerns several fields; each is allowed by itself.
+    bool Check(Invoice const& invoice)
     {
-        return isAllowed || Fail(field, { 0, text });
+        m_line = 0;
+        std::wstring message;
+        return CheckInvoice(invoice, message) ||
+               Fail(invoice.lines.empty() ? DraftField::Lines : DraftField::PaidOn, { 0, message });
     }
 
 private:
@@ -93,15 +98,11 @@ bool ReadHead(DraftReader& reader, InvoiceDraft const& draft, InvoiceBook const&
            reader.Read(DraftField::Terms,
                        [&](InputFault& fault) { return TryReadTerms(draft.terms, invoice.terms, fault); }) &&
            reader.Read(DraftField::PaidOn,
-                       [&](InputFault& fault) { return TryReadOptionalDate(draft.paidOn, invoice.paidOn, fault); }) &&
-           reader.Require(!invoice.IsPaid() || invoice.paidOn >= invoice.date, DraftField::PaidOn,
-                          L"Eine Rechnung wird nicht vor ihrem Datum bezahlt.");
+                       [&](InputFault& fault) { return TryReadOptionalDate(draft.paidOn, invoice.paidOn, fault); });
 }
 
 bool ReadLines(DraftReader& reader, InvoiceDraft const& draft, Invoice& invoice)
 {
-    if (!reader.Require(!draft.lines.empty(), DraftField::Lines, L"Eine Rechnung hat mindestens eine Zeile."))
-        return false;
     invoice.lines.resize(draft.lines.size());
     for (std::size_t index = 0; index < draft.lines.size(); ++index)
     {
@@ -140,7 +141,7 @@ bool TryReadDraft(InvoiceDraft const& draft, InvoiceBook const& book, std::wstri
 {
     Invoice read;
     DraftReader reader(fault);
-    if (!ReadHead(reader, draft, book, own, read) || !ReadLines(reader, draft, read))
+    if (!ReadHead(reader, draft, book, own, read) || !ReadLines(reader, draft, read) || !reader.Check(read))
         return false;
     invoice = std::move(read);
     return true;

@@ -55,8 +55,8 @@ InvoiceDraft ToDraft(Invoice const& invoice);
 /// empty line with 20 %.
 InvoiceDraft MakeNewDraft(InvoiceBook const& book, VekSysBase::VekDateEx const& today);
 
-/// Reads the fields in their order; the first fault ends it and leaves the target unchanged. Also checks what concerns
-/// several fields: a payment is not before the invoice. `own` as for TryReadNumber.
+/// Reads the fields in their order; the first fault ends it and leaves the target unchanged. At the end it checks what
+/// concerns several fields: a payment is not before the invoice. `own` as for TryReadNumber.
 bool TryReadDraft(InvoiceDraft const& draft, InvoiceBook const& book, std::wstring const& own, Invoice& invoice,
                   DraftFault& fault);
 

@@ -43,7 +43,7 @@ struct InvoiceRow
 
 InvoiceRow MakeRow(Invoice const& invoice, VekSysBase::VekDateEx const& today);
 
-/// "offen", "\u00fcberf\u00e4llig seit 12 Tagen", "bezahlt am 05.03.2024".
+/// That it is open, overdue and for how many days, or paid and when, for people.
 std::wstring DescribeState(Invoice const& invoice, VekSysBase::VekDateEx const& today);
 
 /// Opaque colours; ToWin32Color makes Win32's of them.

@@ -33,7 +33,7 @@ struct Terms
 /// "prompt", "30 Tage", "10 Bankwerktage", "Monatsultimo", "Monatsultimo + 10 Tage".
 std::wstring FormatTerms(Terms const& terms);
 
-/// Reads these, letters in either case, any number of blanks, "netto" at the end allowed. False for any other text;
+/// Reads these, letters in either case, any number of blanks, "netto" behind "Tage" allowed. False for any other text;
 /// `terms` is unchanged then and `fault` tells the first bad unit.
 bool TryReadTerms(std::wstring const& text, Terms& terms, InputFault& fault);
 

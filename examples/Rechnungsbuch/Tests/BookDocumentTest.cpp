@@ -113,7 +113,7 @@ TEST(BookDocument, RefusesWithCodeTextAndPlace)
         { withHead(replaced(c_head, "\"10\"", "\"010\"")), DocumentFault::InvalidValue, 3, L"010", invoice },
         { withHead(c_head + " paidOn=\"\""), DocumentFault::InvalidValue, 3, L"Datum", invoice },
         { withHead(c_head + " paidOn=\"2025-03-30\""), DocumentFault::InvalidValue, 3, L"vor ihrem Datum", invoice },
-        { withLine(""), DocumentFault::MissingValue, 4, L"keine Zeile", invoice },
+        { withLine(""), DocumentFault::MissingValue, 4, L"mindestens eine Zeile", invoice },
         { withLine("<line taxRate=\"20\">x</line>"), DocumentFault::MissingValue, 4, L"net", line },
         { withLine(replaced(c_line, "1.00", "1,00")), DocumentFault::InvalidValue, 4, L"1,00", line },
         { withLine(replaced(c_line, "1.00", "1")), DocumentFault::InvalidValue, 4, L"Betrag", line },

@@ -72,6 +72,20 @@ TEST(InvoiceBook, RefusesInGermanAndLeavesEverything)
     ASSERT_TRUE(book.Add(MakeInvoice(L"a-2")).IsSuccess());
     book.MarkSaved();
     VekDateEx const tooEarly(30, 3, 2025);
+    std::vector<Invoice> bad(8, MakeInvoice(L"bad"));
+    bad[0].number = L" bad";
+    bad[1].customer = L"\u0151";
+    bad[2].date = VekDateEx(29, 2, 2025);
+    bad[3].terms.days = -1;
+    bad[4].lines.clear();
+    bad[5].lines[0].net = Amount(L"1,00") / 3;
+    bad[6].lines[0].taxRate = Amount(L"0,00") / 0; // a NaN
+    bad[7].paidOn = tooEarly;
+    for (Invoice const& invoice : bad)
+    {
+        EXPECT_FALSE(book.Add(invoice).IsSuccess());
+        EXPECT_FALSE(book.Replace(L"a-1", invoice).IsSuccess());
+    }
     struct Row
     {
         InvoiceBook::CommandResult result;
