@@ -61,16 +61,19 @@ bool FormDialog::OnCommand(unsigned int command)
 
 bool FormDialog::Handle(unsigned int message, unsigned long long wParam, long long lParam, long long& result)
 {
+    if (Try([&] { return OnMessage(message, wParam, lParam, result); }))
+        return true;
     if (message == WM_CLOSE)
         return Try([this] { return Cancel(), true; });
     if (message == WM_CTLCOLORSTATIC && GetDlgCtrlID(reinterpret_cast<HWND>(lParam)) == m_faultId)
     {
-        SetTextColor(reinterpret_cast<HDC>(wParam), m_isFaultShown ? c_faultColor : GetSysColor(COLOR_BTNTEXT));
-        SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
+        auto const context = reinterpret_cast<HDC>(wParam);
+        SetTextColor(context, m_isFaultShown ? c_faultColor : GetSysColor(COLOR_BTNTEXT));
+        SetBkMode(context, TRANSPARENT);
         result = reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
         return true;
     }
-    return Try([&] { return OnMessage(message, wParam, lParam, result); });
+    return false;
 }
 
 bool FormDialog::OnMessage(unsigned int, unsigned long long, long long, long long&)

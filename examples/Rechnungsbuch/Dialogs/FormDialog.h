@@ -28,9 +28,9 @@ protected:
     virtual void Initialize() = 0;
     /// `id` of a control, a menu item or a shortcut, with the control's notification.
     virtual bool OnControl(int id, unsigned int notification) = 0;
-    /// Esc, the cross in the caption, or "Abbrechen". Closes by itself.
+    /// Esc, "Abbrechen", or the cross in the caption. Closes by itself.
     virtual void Cancel();
-    /// A message of the dialog's window; true answers `result`.
+    /// A message of the dialog's window, before all else; true answers `result`.
     virtual bool OnMessage(unsigned int message, unsigned long long wParam, long long lParam, long long& result);
 
     int Scale(int length) const { return GetDPICorrected(length); }

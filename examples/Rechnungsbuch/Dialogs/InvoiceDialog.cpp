@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <numeric>
 #include <optional>
 #include <utility>
 
@@ -208,8 +209,10 @@ void InvoiceDialog::ShowLines(std::size_t selected)
     std::vector<TableRow> rows;
     for (InvoiceDraft::Line const& line : m_draft.lines)
         rows.push_back(ToTableRow(line));
-    m_table.FitColumns(rows);
-    m_table.SetRows(std::move(rows), m_draft.lines.empty() ? std::nullopt : std::optional(selected));
+    std::vector<std::size_t> shown(rows.size());
+    std::iota(shown.begin(), shown.end(), std::size_t{ 0 });
+    m_table.SetRows(std::move(rows));
+    m_table.Show(std::move(shown), selected);
 }
 
 void InvoiceDialog::ShowResults()
@@ -249,7 +252,7 @@ void InvoiceDialog::DeleteLine()
         return;
     m_draft.lines.erase(m_draft.lines.begin() + static_cast<std::ptrdiff_t>(*selected));
     m_isChanged = true;
-    ShowLines(std::min(*selected, m_draft.lines.size() - 1));
+    ShowLines(m_draft.lines.empty() ? 0 : std::min(*selected, m_draft.lines.size() - 1));
     ShowLineFields();
     ShowResults();
     if (m_draft.lines.empty())

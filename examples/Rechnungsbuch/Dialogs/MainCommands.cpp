@@ -84,7 +84,7 @@ void MainDialog::OnFilterChanged()
     InputFault fault;
     m_filterFault.reset();
     if (TryReadFilter(GetText(CONTROL_FILTER), m_filter, fault))
-        ShowRows(); // else what was shown stays, until the filter is right again
+        ShowRows(m_table.GetSelectedPlace()); // else what was shown stays, until the filter is right again
     else
         m_filterFault = fault;
     ShowFaultLine(m_filterFault ? L"Stelle " + std::to_wstring(fault.position + 1) + L": " + fault.text : L"");
@@ -95,6 +95,14 @@ void MainDialog::GoToFilter()
     UI::SelectCharacter(GetControlById(CONTROL_FILTER), m_filterFault ? m_filterFault->position : 0);
     if (!m_filterFault)
         SendDlgItemMessageW(GetWindow().GetHandle(), CONTROL_FILTER, EM_SETSEL, 0, -1);
+}
+
+void MainDialog::LeaveFilter()
+{
+    if (m_filterFault)
+        GoToFilter();
+    else
+        FocusControl(CONTROL_INVOICES);
 }
 
 /// Esc first takes the filter away.
@@ -156,6 +164,7 @@ void MainDialog::Open()
         return ShowFault(GetWindow(), FormatDocumentFault(GetFileName(path.GetValue()), fault));
     m_areTemplatesSaved = true;
     ShowBook();
+    ShowTime(L"geladen", "Laden");
 }
 
 void MainDialog::Save()
@@ -184,11 +193,12 @@ bool MainDialog::TrySaveAs()
 /// The templates lie beside the book, so another path takes them along.
 bool MainDialog::TrySaveTo(std::wstring const& path)
 {
-    bool const isElsewhere = path != m_session.GetPath();
+    bool const isElsewhere = !m_session.GetPath().empty() && path != m_session.GetPath();
     std::wstring message;
     if (!m_session.TrySave(path, message))
         return ShowFault(GetWindow(), message), false;
     ShowBook();
+    ShowTime(L"gespeichert", "Speichern");
     m_areTemplatesSaved = m_areTemplatesSaved && !isElsewhere;
     return m_areTemplatesSaved || TrySaveTemplates();
 }

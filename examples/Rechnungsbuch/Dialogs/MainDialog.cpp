@@ -45,6 +45,15 @@ LPARAM LoadProgramIcon(int widthMetric, int heightMetric)
                                                LR_SHARED));
 }
 
+/// Of the history for a menu, where a single & would mark a letter.
+std::wstring MakeMenuText(std::wstring const& command, std::wstring const& step, std::wstring const& key)
+{
+    std::wstring text = command + (step.empty() ? L"" : L": ");
+    for (wchar_t const unit : step)
+        text.append(unit == L'&' ? 2 : 1, unit);
+    return text + L"\t" + key;
+}
+
 TableRow ToTableRow(InvoiceRow const& row)
 {
     return { { row.texts.begin(), row.texts.end() }, row.state };
@@ -70,7 +79,10 @@ void MainDialog::Initialize()
     SendMessageW(window, WM_SETICON, ICON_BIG, LoadProgramIcon(SM_CXICON, SM_CYICON));
     SetHint(L"etwa: offen und nicht (Kunde Huber oder Betrag > 1.000)");
     RegisterTable();
+    RegisterFilter();
     ShowBook();
+    if (!m_session.GetPath().empty())
+        ShowTime(L"geladen", "Laden");
     GetWindow().CenterInWorkArea({ Scale(860), Scale(480) });
     SetForegroundWindow(window);
     PostMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetControlById(CONTROL_INVOICES).GetHandle()), TRUE);
@@ -83,6 +95,22 @@ void MainDialog::RegisterTable()
     m_table.Attach(header, list, GetGap());
     RegisterOwnerDrawStrategyFor(header, m_table.MakeHeaderPainter());
     RegisterOwnerDrawStrategyFor(list, m_table.MakeRowPainter());
+}
+
+/// Enter in the filter is not meant for the default button.
+void MainDialog::RegisterFilter()
+{
+    auto const handle = [this](unsigned int message, unsigned long long wParam, long long, long long& result)
+    {
+        if (wParam != VK_RETURN)
+            return false;
+        if (message == WM_GETDLGCODE)
+            result = DLGC_WANTALLKEYS;
+        else if (message == WM_KEYDOWN)
+            LeaveFilter();
+        return message == WM_GETDLGCODE || message == WM_KEYDOWN || message == WM_CHAR;
+    };
+    RegisterMessageLoopFor(GetControlById(CONTROL_FILTER), handle);
 }
 
 bool MainDialog::OnMessage(unsigned int message, unsigned long long, long long lParam, long long& result)
@@ -98,12 +126,12 @@ bool MainDialog::OnMessage(unsigned int message, unsigned long long, long long l
         reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = { smallest.GetWidth(), smallest.GetHeight() };
         return true;
     }
+    case WM_CLOSE:
+        Leave();
+        return true;
     case WM_QUERYENDSESSION:
         result = MayLeaveBook();
         return true;
-    case WM_DESTROY:
-        m_accelerators.reset();
-        return false;
     default:
         return false;
     }
@@ -129,6 +157,7 @@ void MainDialog::Arrange(IntSize const& clientSize)
     GetWindow().Redraw();
 }
 
+/// The buttons beside each other, and as much again as the margins for the frame.
 MainDialog::IntSize MainDialog::GetSmallestSize() const
 {
     int const edits = 4 * (GetButtonWidth({ COMMAND_ADD, COMMAND_EDIT, COMMAND_DELETE, COMMAND_PAID }) + GetGap());
@@ -138,61 +167,58 @@ MainDialog::IntSize MainDialog::GetSmallestSize() const
 
 void MainDialog::ShowBook()
 {
-    m_rows.clear();
+    std::vector<TableRow> rows;
     for (Invoice const& invoice : m_session.GetBook().GetInvoices())
-        m_rows.push_back(ToTableRow(MakeRow(invoice, m_today)));
-    m_table.FitColumns(m_rows);
+        rows.push_back(ToTableRow(MakeRow(invoice, m_today)));
+    std::size_t const place = m_table.GetSelectedPlace();
+    m_table.SetRows(std::move(rows));
     GetWindow().SetText(m_session.GetCaption());
-    ShowRows();
+    ShowRows(place);
     ShowStatus();
 }
 
-void MainDialog::ShowRows()
+void MainDialog::ShowRows(std::size_t place)
 {
     std::vector<Invoice> const& invoices = m_session.GetBook().GetInvoices();
-    std::size_t const place = m_table.GetSelected().value_or(0);
     std::optional<std::size_t> selected;
-    std::vector<TableRow> rows;
-    m_shown.clear();
+    std::vector<std::size_t> shown;
     for (std::size_t i = 0; i < invoices.size(); ++i)
     {
         if (!m_filter(invoices[i], m_today))
             continue;
+        shown.push_back(i);
         if (invoices[i].number == m_selectedNumber)
-            selected = m_shown.size();
-        m_shown.push_back(i);
-        rows.push_back(m_rows[i]);
+            selected = i;
     }
-    if (!selected && !m_shown.empty())
-        selected = std::min(place, m_shown.size() - 1);
-    m_table.SetRows(std::move(rows), selected);
+    if (!selected && !shown.empty())
+        selected = shown[std::min(place, shown.size() - 1)];
+    m_table.Show(std::move(shown), selected);
     OnSelectionChanged();
-    ShowTotals();
-}
-
-void MainDialog::ShowTotals()
-{
-    SetText(CONTROL_TOTALS, DescribeTotals(GetShownInvoices(), m_rows.size(), m_today));
+    SetText(CONTROL_TOTALS, DescribeTotals(GetShownInvoices(), invoices.size(), m_today));
 }
 
 std::vector<Invoice const*> MainDialog::GetShownInvoices() const
 {
     std::vector<Invoice const*> shown;
-    for (std::size_t const index : m_shown)
+    for (std::size_t const index : m_table.GetShown())
         shown.push_back(&m_session.GetBook().GetInvoices()[index]);
     return shown;
 }
 
 void MainDialog::ShowStatus()
 {
-    std::wstring text = m_session.GetPath();
-    auto const addTime = [&text](TimeMeasureInfo const& info, std::string const& name)
+    SetText(CONTROL_STATUS, m_session.GetPath().empty() ? L"noch ohne Datei" : m_session.GetPath());
+}
+
+void MainDialog::ShowTime(std::wstring const& done, std::string const& measure)
+{
+    auto const show = [&](TimeMeasureInfo const& info, std::string const& name)
     {
-        if (name == "Laden" && info.GetMeasuresCount() > 0 && !text.empty())
-            text += L" (geladen in " + FormatAmount(Decimal(info.GetLastResultInNanoSeconds() / 10000, -2)) + L" ms)";
+        Decimal const milliseconds(info.GetLastResultInNanoSeconds() / 10000, -2);
+        if (name == measure)
+            SetText(CONTROL_STATUS, m_session.GetPath() + L" " + done + L" in " + FormatAmount(milliseconds) + L" ms");
     };
-    TimeMeasureContainer::ForEachMeasure(addTime);
-    SetText(CONTROL_STATUS, text.empty() ? L"noch ohne Datei" : text);
+    TimeMeasureContainer::ForEachMeasure(show);
 }
 
 void MainDialog::OnSelectionChanged()
@@ -205,7 +231,7 @@ void MainDialog::OnSelectionChanged()
 Invoice const* MainDialog::GetSelectedInvoice() const
 {
     std::optional<std::size_t> const selected = m_table.GetSelected();
-    return selected ? &m_session.GetBook().GetInvoices()[m_shown[*selected]] : nullptr;
+    return selected ? &m_session.GetBook().GetInvoices()[*selected] : nullptr;
 }
 
 void MainDialog::ShowCommands()
@@ -215,9 +241,9 @@ void MainDialog::ShowCommands()
         SetCommand(id, isSelected);
     auto const& history = m_session.GetBook().GetHistory();
     SetCommand(COMMAND_UNDO, history.CanUndo(),
-               L"&R\u00FCckg\u00E4ngig" + (history.CanUndo() ? L": " + history.GetUndoText() : L"") + L"\tStrg+Z");
+               MakeMenuText(L"&R\u00FCckg\u00E4ngig", history.CanUndo() ? history.GetUndoText() : L"", L"Strg+Z"));
     SetCommand(COMMAND_REDO, history.CanRedo(),
-               L"&Wiederherstellen" + (history.CanRedo() ? L": " + history.GetRedoText() : L"") + L"\tStrg+Y");
+               MakeMenuText(L"&Wiederherstellen", history.CanRedo() ? history.GetRedoText() : L"", L"Strg+Y"));
     // The keyboard must not be left at a button that has just gone grey.
     if (HWND const focus = GetFocus(); focus != nullptr && !IsWindowEnabled(focus))
         PostMessageW(GetWindow().GetHandle(), WM_NEXTDLGCTL,

@@ -28,15 +28,18 @@ private:
     void Cancel() override;
 
     void RegisterTable();
+    void RegisterFilter();
     void Arrange(IntSize const& clientSize);
     IntSize GetSmallestSize() const;
 
     /// After a change of the book.
     void ShowBook();
-    /// After one of the filter or the selection. Keeps the selected invoice, or the place in the list when it is gone.
-    void ShowRows();
-    void ShowTotals();
+    /// After a change of the filter. Selects what was selected or, when that is gone, what stands at that place now.
+    void ShowRows(std::size_t place);
+    /// The book's file.
     void ShowStatus();
+    /// And how long the session has taken for what was just done, until the book changes.
+    void ShowTime(std::wstring const& done, std::string const& measure);
     void ShowCommands();
     void SetCommand(int id, bool isEnabled, std::wstring const& menuText = {});
 
@@ -60,6 +63,8 @@ private:
     void MarkPaid();
     void EditTemplates();
     void GoToFilter();
+    /// To its fault or, without one, to the list.
+    void LeaveFilter();
     /// Selects the invoice with that number, or tells why the book does not allow it.
     void Finish(InvoiceBook::CommandResult const& result, std::wstring const& number);
 
@@ -74,9 +79,7 @@ private:
     BookSession& m_session;
     VekSysBase::VekDateEx m_today;
     std::optional<Accelerators> m_accelerators;
-    TableView m_table;
-    std::vector<TableRow> m_rows;     // one for each invoice of the book
-    std::vector<std::size_t> m_shown; // the invoices in the list, in its order
+    TableView m_table; // a row for each invoice of the book
     std::wstring m_selectedNumber;
     InvoiceFilter m_filter;
     std::optional<InputFault> m_filterFault;

@@ -4,6 +4,7 @@
 #include <Utilities/UI/DeviceContext.h>
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 #include <windows.h>
@@ -73,25 +74,37 @@ void TableView::SetBounds(IntRectangle const& bounds)
     PlaceColumns();
 }
 
-void TableView::FitColumns(std::vector<TableRow> const& rows)
+void TableView::SetRows(std::vector<TableRow> rows)
 {
+    m_rows = std::move(rows);
+    m_shown.clear(); // the list keeps its place until Show
     UI::DeviceContext const context(m_list.GetHandle());
     HGDIOBJ const former = SelectObject(context, m_list.GetFont());
-    auto const measure = [&context](std::wstring const& text)
+    for (std::size_t column = 0; column < m_columns.size(); ++column)
+        m_widths[column] = MeasureColumn(context, column) + 2 * m_padding;
+    SelectObject(context, former);
+}
+
+/// The digits of a dialog's font are equally wide, so texts that differ in digits only, such as dates, are measured
+/// once.
+int TableView::MeasureColumn(HDC context, std::size_t column) const
+{
+    int width = 0;
+    std::unordered_set<std::wstring> measured;
+    auto const measure = [&](std::wstring text)
     {
+        std::replace_if(
+            text.begin(), text.end(), [](wchar_t unit) { return unit >= L'0' && unit <= L'9'; }, L'0');
+        if (!measured.insert(text).second)
+            return;
         SIZE size{};
         GetTextExtentPoint32W(context, text.c_str(), static_cast<int>(text.size()), &size);
-        return static_cast<int>(size.cx);
+        width = std::max(width, static_cast<int>(size.cx));
     };
-    for (std::size_t column = 0; column < m_columns.size(); ++column)
-    {
-        int width = measure(m_columns[column].title);
-        for (TableRow const& row : rows)
-            width = std::max(width, measure(row.cells[column]));
-        m_widths[column] = width + 2 * m_padding;
-    }
-    SelectObject(context, former);
-    PlaceColumns();
+    measure(m_columns[column].title);
+    for (TableRow const& row : m_rows)
+        measure(row.cells[column]);
+    return width;
 }
 
 void TableView::PlaceColumns()
@@ -110,15 +123,16 @@ void TableView::PlaceColumns()
     m_list.Redraw();
 }
 
-void TableView::SetRows(std::vector<TableRow> rows, std::optional<std::size_t> selected)
+void TableView::Show(std::vector<std::size_t> rows, std::optional<std::size_t> selected)
 {
     HWND const list = m_list.GetHandle();
     LRESULT const top = SendMessageW(list, LB_GETTOPINDEX, 0, 0);
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
     SendMessageW(list, LB_RESETCONTENT, 0, 0);
-    m_rows = std::move(rows);
-    for (TableRow const& row : m_rows)
-        SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.cells.front().c_str()));
+    m_shown = std::move(rows);
+    SendMessageW(list, LB_INITSTORAGE, m_shown.size(), 0);
+    for (std::size_t const row : m_shown)
+        SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(m_rows[row].cells.front().c_str()));
     SendMessageW(list, LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
     Select(selected);
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);
@@ -127,13 +141,22 @@ void TableView::SetRows(std::vector<TableRow> rows, std::optional<std::size_t> s
 
 std::optional<std::size_t> TableView::GetSelected() const
 {
-    LRESULT const index = SendMessageW(m_list.GetHandle(), LB_GETCURSEL, 0, 0);
-    return index == LB_ERR ? std::nullopt : std::optional(static_cast<std::size_t>(index));
+    auto const place = static_cast<std::size_t>(SendMessageW(m_list.GetHandle(), LB_GETCURSEL, 0, 0));
+    return place < m_shown.size() ? std::optional(m_shown[place]) : std::nullopt; // LB_ERR is beyond all
 }
 
-void TableView::Select(std::optional<std::size_t> index)
+std::size_t TableView::GetSelectedPlace() const
 {
-    SendMessageW(m_list.GetHandle(), LB_SETCURSEL, index ? *index : static_cast<WPARAM>(-1), 0);
+    LRESULT const place = SendMessageW(m_list.GetHandle(), LB_GETCURSEL, 0, 0);
+    return place == LB_ERR ? 0 : static_cast<std::size_t>(place);
+}
+
+void TableView::Select(std::optional<std::size_t> row)
+{
+    auto const found = row ? std::find(m_shown.begin(), m_shown.end(), *row) : m_shown.end();
+    WPARAM const place =
+        found == m_shown.end() ? static_cast<WPARAM>(-1) : static_cast<WPARAM>(found - m_shown.begin());
+    SendMessageW(m_list.GetHandle(), LB_SETCURSEL, place, 0);
 }
 
 void TableView::DrawCells(DRAWITEMSTRUCT const& item, int offset,
@@ -164,9 +187,9 @@ void TableView::DrawHeader(DRAWITEMSTRUCT const& item) const
 
 void TableView::DrawRow(DRAWITEMSTRUCT const& item) const
 {
-    if (item.itemID < m_rows.size())
+    if (item.itemID < m_shown.size())
     {
-        TableRow const& row = m_rows[item.itemID];
+        TableRow const& row = m_rows[m_shown[item.itemID]];
         RowColors const& colors = GetRowColors(row.state, (item.itemState & ODS_SELECTED) != 0);
         SetBkColor(item.hDC, ToWin32Color(colors.background));
         SetTextColor(item.hDC, ToWin32Color(colors.text));

@@ -49,18 +49,23 @@ public:
     /// Of the table with so many rows to be seen.
     int GetHeight(int rowCount) const;
 
-    /// Columns get as wide as these rows and the titles need. To be called with all that may be shown, so that columns
-    /// stand still while a filter changes.
-    void FitColumns(std::vector<TableRow> const& rows);
-    /// Selects that row, or none for no value.
-    void SetRows(std::vector<TableRow> rows, std::optional<std::size_t> selected);
+    /// All rows that may be shown, to be followed by Show. Columns get as wide as these and the titles need, so that
+    /// they stand still while a filter changes.
+    void SetRows(std::vector<TableRow> rows);
+    /// Shows these rows, in this order, and selects one of them, if it is there.
+    void Show(std::vector<std::size_t> rows, std::optional<std::size_t> selected);
+    std::vector<std::size_t> const& GetShown() const noexcept { return m_shown; }
 
+    /// A row.
     std::optional<std::size_t> GetSelected() const;
-    void Select(std::optional<std::size_t> index);
+    void Select(std::optional<std::size_t> row);
+    /// Its place among those that are shown, from 0.
+    std::size_t GetSelectedPlace() const;
 
 private:
     class Painter;
 
+    int MeasureColumn(HDC__* context, std::size_t column) const;
     void PlaceColumns();
     /// The cells that are wider than their column end in dots.
     void DrawCells(tagDRAWITEMSTRUCT const& item, int offset,
@@ -71,6 +76,7 @@ private:
 
     std::vector<TableColumn> m_columns;
     std::vector<TableRow> m_rows;
+    std::vector<std::size_t> m_shown;
     std::vector<int> m_widths; // that the texts need, with padding
     std::vector<int> m_edges;  // in the list's client area: where each column begins, and where the last one ends
     int m_padding = 0;
