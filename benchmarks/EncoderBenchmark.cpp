@@ -29,15 +29,17 @@ unsigned char const* AsBytes(std::string const& text)
     return reinterpret_cast<unsigned char const*>(text.data());
 }
 
-void RegisterBase64()
+std::string ToText(std::unique_ptr<SizedArray<unsigned char>> const& bytes)
 {
-    std::string const bytes = MakeBytes();
+    return std::string(reinterpret_cast<char const*>(bytes->GetData()), bytes->GetSize());
+}
+
+void RegisterBase64(std::string const& size, std::string const& bytes)
+{
     auto const encode = [=] { return Base64::Encode(AsBytes(bytes), bytes.size()); };
-    Register("Base64Encode/ours", bytes.size(), encode);
-    auto const plain = [](std::unique_ptr<SizedArray<unsigned char>> const& array)
-    { return std::string(reinterpret_cast<char const*>(array->GetData()), array->GetSize()); };
+    Register("Base64Encode" + size + "/ours", bytes.size(), encode);
     Register(
-        "Base64Decode/ours", bytes.size(), [text = encode()] { return Base64::Decode(text); }, plain);
+        "Base64Decode" + size + "/ours", bytes.size(), [text = encode()] { return Base64::Decode(text); }, ToText);
 }
 
 std::string ReadByteByByte(std::wstring const& text)
@@ -48,13 +50,23 @@ std::string ReadByteByByte(std::wstring const& text)
     return bytes;
 }
 
-void RegisterHex()
+std::unique_ptr<SizedArray<unsigned char>> ReadAllBytes(std::wstring const& text)
 {
-    std::string const bytes = MakeBytes();
+    std::unique_ptr<SizedArray<unsigned char>> bytes;
+    unsigned long long errorPosition = 0;
+    HexConverter::TryReadBytes(text, bytes, errorPosition);
+    return bytes;
+}
+
+void RegisterHex(std::string const& size, std::string const& bytes)
+{
     auto const encode = [=] { return WStringHelper::GetHex(AsBytes(bytes), static_cast<unsigned>(bytes.size())); };
-    Register("HexEncode/ours", bytes.size(), encode,
+    Register("HexEncode" + size + "/ours", bytes.size(), encode,
              [](std::wstring const& digits) { return WStringHelper::ToLowerCase(digits); });
-    Register("HexDecodeByteWise/ours", bytes.size(), [text = encode()] { return ReadByteByByte(text); });
+    std::wstring const text = encode();
+    Register("HexDecodeByteWise" + size + "/ours", bytes.size(), [=] { return ReadByteByByte(text); });
+    Register(
+        "HexDecode" + size + "/ours", bytes.size(), [=] { return ReadAllBytes(text); }, ToText);
 }
 
 /// FNV-1a over the two bytes of every unit, as its authors write it.
@@ -82,8 +94,11 @@ void RegisterHash()
 
 bool const c_isRegistered = []
 {
-    RegisterBase64();
-    RegisterHex();
+    for (auto const& [name, size] : c_attachments)
+    {
+        RegisterBase64(name, MakeBytes(size));
+        RegisterHex(name, MakeBytes(size));
+    }
     RegisterHash();
     return true;
 }();

@@ -7,11 +7,18 @@
 namespace Benchmarks
 {
 
-/// The size of a small attachment, in the second-level cache with its results.
-inline std::string MakeBytes()
+/// What is encoded: in the second-level cache with its results, and too large for that as wide text.
+struct Attachment
+{
+    char const* name;
+    std::size_t size;
+};
+inline constexpr Attachment c_attachments[] = { { "", 30'000 }, { "1MB", 1'000'000 } };
+
+inline std::string MakeBytes(std::size_t size)
 {
     std::mt19937 random(20240229);
-    std::string bytes(30'000, '\0');
+    std::string bytes(size, '\0');
     std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<char>(random()); });
     return bytes;
 }

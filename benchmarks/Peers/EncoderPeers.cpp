@@ -21,16 +21,23 @@ std::wstring WidenInLowerCase(std::string digits)
     return Widen(digits);
 }
 
+void RegisterModp(std::string const& size, std::string const& bytes)
+{
+    Register(
+        "Base64Encode" + size + "/modp", bytes.size(), [=] { return modp::b64_encode(bytes); }, Widen);
+    Register("Base64Decode" + size + "/modp", bytes.size(),
+             [text = modp::b64_encode(bytes)] { return modp::b64_decode(text); });
+    Register(
+        "HexEncode" + size + "/modp", bytes.size(), [=] { return modp::b16_encode(bytes); }, WidenInLowerCase);
+    auto const decode = [text = modp::b16_encode(bytes)] { return modp::b16_decode(text); };
+    Register("HexDecodeByteWise" + size + "/modp_bulk", bytes.size(), decode);
+    Register("HexDecode" + size + "/modp", bytes.size(), decode);
+}
+
 bool const c_isRegistered = []
 {
-    std::string const bytes = MakeBytes();
-    Register(
-        "Base64Encode/modp", bytes.size(), [=] { return modp::b64_encode(bytes); }, Widen);
-    Register("Base64Decode/modp", bytes.size(), [text = modp::b64_encode(bytes)] { return modp::b64_decode(text); });
-    Register(
-        "HexEncode/modp", bytes.size(), [=] { return modp::b16_encode(bytes); }, WidenInLowerCase);
-    Register("HexDecodeByteWise/modp_bulk", bytes.size(),
-             [text = modp::b16_encode(bytes)] { return modp::b16_decode(text); });
+    for (auto const& [name, size] : c_attachments)
+        RegisterModp(name, MakeBytes(size));
     return true;
 }();
 

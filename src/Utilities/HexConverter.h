@@ -1,9 +1,12 @@
 #pragma once
 
+#include <Utilities/SizedArray.h>
 #include <VekApi.h>
 
 #include <array>
+#include <memory>
 #include <string>
+#include <string_view>
 
 namespace Vek::Framework::Utilities
 {
@@ -46,6 +49,12 @@ public:
             Refuse(text, index);
         return static_cast<unsigned char>(value);
     }
+
+    /// All bytes of `text`, two digits each, the high one first, in either case and mixed; none of an empty text.
+    /// False leaves `bytes` as it was and sets `errorPosition` to the first character that is no digit, or to the size
+    /// of the text when there is none but the second digit of the last byte is missing.
+    static bool TryReadBytes(std::wstring_view text, std::unique_ptr<SizedArray<unsigned char>>& bytes,
+                             unsigned long long& errorPosition);
 
 private:
     [[noreturn]] static void Refuse(std::wstring const& text, unsigned long long index);

@@ -74,3 +74,37 @@ TEST(HexConverter, ReadsWhatWStringHelperWrites)
         EXPECT_THROW(HexConverter::ReadByte(MakeText({ unit, '0' }), 0), Vek::ArgumentException) << unit;
     }
 }
+
+TEST(HexConverter, WholeTextsAsByteByByteWithThePlaceOfTheFault)
+{
+    std::wstring text;
+    for (unsigned at = 0; at < 100; ++at)
+        text += L"0123456789abcdefABCDEF"[at * 7 % 22];
+    for (std::size_t size = 0; size <= text.size(); ++size)
+    {
+        std::unique_ptr<SizedArray<unsigned char>> bytes;
+        unsigned long long errorPosition = 0;
+        bool const isWhole = size % 2 == 0;
+        ASSERT_EQ(isWhole, HexConverter::TryReadBytes(std::wstring_view(text).substr(0, size), bytes, errorPosition));
+        ASSERT_EQ(isWhole ? 0 : size, errorPosition);
+        ASSERT_EQ(isWhole, bytes != nullptr);
+        ASSERT_TRUE(!isWhole || bytes->GetSize() == size / 2);
+        for (std::size_t at = 0; isWhole && at < size / 2; ++at)
+            ASSERT_EQ(HexConverter::ReadByte(text, at), bytes->GetAt(at)) << size;
+    }
+    std::vector<unsigned> others = { 0x130, 0xFF10, 0x8030, 0xFFFF };
+    for (unsigned unit = 0; unit < 0x100; ++unit)
+        if (std::wstring(L"0123456789abcdefABCDEF").find(static_cast<wchar_t>(unit)) == std::wstring::npos)
+            others.push_back(unit);
+    for (std::size_t at = 0; at < others.size(); ++at)
+        for (std::size_t const size : { 99U, 100U })
+        {
+            std::size_t const place = at * 3 % size;
+            std::wstring broken = text.substr(0, size);
+            broken[place] = static_cast<wchar_t>(others[at]);
+            std::unique_ptr<SizedArray<unsigned char>> bytes;
+            unsigned long long errorPosition = 0;
+            ASSERT_FALSE(HexConverter::TryReadBytes(broken, bytes, errorPosition)) << others[at];
+            ASSERT_EQ(place, errorPosition) << others[at];
+        }
+}
