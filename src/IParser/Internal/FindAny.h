@@ -20,6 +20,16 @@ unsigned int MatchAny(char const* at)
     return static_cast<unsigned int>(_mm_movemask_epi8(matches));
 }
 
+/// The last bytes of a text, which are fewer than a block: apart, so that what they come after is short.
+template <bool withControls, char... members>
+char const* FindMatchInRest(char const* at, char const* end)
+{
+    auto const isControl = [](char c) { return withControls && static_cast<unsigned char>(c) < ' '; };
+    while (at != end && ((*at != members) && ...) && !isControl(*at))
+        ++at;
+    return at;
+}
+
 template <bool withControls, char... members>
 char const* FindMatch(char const* at, char const* end)
 {
@@ -27,10 +37,7 @@ char const* FindMatch(char const* at, char const* end)
     for (; end - at >= c_blockSize; at += c_blockSize)
         if (unsigned int const hits = MatchAny<withControls, members...>(at); hits != 0)
             return at + std::countr_zero(hits);
-    auto const isControl = [](char c) { return withControls && static_cast<unsigned char>(c) < ' '; };
-    while (at != end && ((*at != members) && ...) && !isControl(*at))
-        ++at;
-    return at;
+    return FindMatchInRest<withControls, members...>(at, end);
 }
 
 /// The first of the bytes `members` in [at, end), or `end`; 16 bytes at a time.

@@ -1,5 +1,6 @@
 #include <IParser/Internal/SourceBuffer.h>
 
+#include <algorithm>
 #include <cstring>
 #include <exception>
 
@@ -9,7 +10,11 @@ namespace Vek::Framework::IParser::Native::Internal
 namespace
 {
 
-constexpr std::size_t c_blockSize = 0x100000;
+// Most documents are small, and a large block costs more to get than they do to read. Each that is filled makes the
+// next one larger.
+constexpr std::size_t c_firstBlockSize = 0x4000;
+constexpr std::size_t c_growth = 8;
+constexpr std::size_t c_lastBlockSize = 0x100000;
 constexpr std::size_t c_carrySize = 0x1000; // beside the block: the token that straddles two blocks
 
 } // namespace
@@ -24,9 +29,9 @@ SourceBuffer::SourceBuffer(std::string_view text)
 
 SourceBuffer::SourceBuffer(std::istream& stream, Reading reading)
     : m_stream(&stream),
-      m_chunk(reading == Reading::ByBlock ? c_blockSize : 1)
+      m_chunk(reading == Reading::ByBlock ? c_firstBlockSize : 1)
 {
-    std::size_t const capacity = (reading == Reading::ByBlock ? c_blockSize : 0) + c_carrySize;
+    std::size_t const capacity = (reading == Reading::ByBlock ? c_firstBlockSize : 0) + c_carrySize;
     m_memory = std::make_unique_for_overwrite<char[]>(capacity);
     m_begin = m_end = m_memory.get();
     m_capacityEnd = m_begin + capacity;
@@ -38,7 +43,7 @@ char const* SourceBuffer::MoveToFront(char const* keep)
     std::size_t const capacity = static_cast<std::size_t>(m_capacityEnd - m_begin);
     if (capacity - kept < m_chunk)
     {
-        std::size_t const grown = 2 * kept + m_chunk;
+        std::size_t const grown = 2 * kept + m_chunk + c_carrySize;
         auto memory = std::make_unique_for_overwrite<char[]>(grown);
         std::memcpy(memory.get(), keep, kept);
         m_memory = std::move(memory);
@@ -55,6 +60,8 @@ bool SourceBuffer::ReadOn()
 {
     std::size_t const count = m_isAtEnd || !m_stream->good() ? 0 : ReadChunk();
     m_end += count;
+    if (count == m_chunk && count > 1)
+        m_chunk = std::min(count * c_growth, c_lastBlockSize);
     if (count == 0 && !m_isAtEnd)
     {
         m_isAtEnd = true;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <IXMLStreamer/Internal/XMLStreamerReader.h>
+#include <IXMLStreamer/Internal/XMLStreamerOpenElement.h>
 
 #include <memory>
 #include <string>

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-// The consumers of the reader's states, in the order of a document.
+// The consumers of the reader's states, in the order of a document; those of every tag are in XMLStreamerOpenElement.h.
 
 namespace Vek::Framework::IXMLStreamer::Native
 {
@@ -94,17 +94,6 @@ void XMLStreamer::Reader::EndAttribute(Params& params)
     RequireAgreement(CallAttributeHandler(FindAttribute(m_attributeName), m_attributeName), params);
 }
 
-void XMLStreamer::Reader::EndStartTag(Params& params)
-{
-    ElementDescription const& description = m_openElements.GetInnermost().description;
-    if (description.element == nullptr)
-        params.nextStateId = Undescribed;
-    else
-        params.nextStateId = description.isStructure ? ElementLevel : Content;
-    m_value.clear();
-    RequireAgreement(CallBeginHandler(), params);
-}
-
 void XMLStreamer::Reader::EndEmptyElement(Params& params)
 {
     params.nextStateId = ElementLevel;
@@ -114,27 +103,11 @@ void XMLStreamer::Reader::EndEmptyElement(Params& params)
         m_openElements.Pop();
 }
 
-void XMLStreamer::Reader::EndContent(Params& params)
-{
-    params.nextStateId = ContentEnd;
-    RequireAgreement(CallContentHandler(m_value), params);
-}
-
 void XMLStreamer::Reader::CheckEndTagName(std::string_view name, Params& params)
 {
     params.nextStateId = EndTagEnd;
     if (name != m_openElements.GetName())
         RaiseError(StreamerError::InvalidSyntax, std::string(m_openElements.GetName()), params);
-}
-
-void XMLStreamer::Reader::EndElement(Params& params)
-{
-    bool const isAgreed = CallEndHandler();
-    RequireAgreement(isAgreed, params);
-    if (!isAgreed)
-        return;
-    m_openElements.Pop();
-    params.nextStateId = m_openElements.IsEmpty() ? AfterRoot : ElementLevel;
 }
 
 // Codes.

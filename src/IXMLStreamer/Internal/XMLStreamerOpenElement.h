@@ -1,8 +1,9 @@
 #pragma once
 
+#include <IXMLStreamer/Internal/ReaderStates.h>
 #include <IXMLStreamer/Internal/XMLStreamerReader.h>
 
-// The innermost open element: what comes into it, and its handlers. Of every tag, so all of it is inline.
+// The innermost open element: what comes into it, its handlers and its end. Of every tag, so all of it is inline.
 
 namespace Vek::Framework::IXMLStreamer::Native
 {
@@ -107,6 +108,41 @@ inline bool XMLStreamer::Reader::CallEndHandler() const
 {
     XMLStructureElement const* const structure = GetOpenStructure();
     return structure == nullptr || Call(structure->m_onEnd, *structure);
+}
+
+inline void XMLStreamer::Reader::RequireAgreement(bool isAgreed, Params& params)
+{
+    if (!isAgreed)
+        RaiseError(StreamerError::UserDefinedError, "", params);
+}
+
+// Consumers.
+
+inline void XMLStreamer::Reader::EndStartTag(Params& params)
+{
+    Internal::ElementDescription const& description = m_openElements.GetInnermost().description;
+    if (description.element == nullptr)
+        params.nextStateId = Internal::Undescribed;
+    else
+        params.nextStateId = description.isStructure ? Internal::ElementLevel : Internal::Content;
+    m_value.clear();
+    RequireAgreement(CallBeginHandler(), params);
+}
+
+inline void XMLStreamer::Reader::EndContent(Params& params)
+{
+    params.nextStateId = Internal::ContentEnd;
+    RequireAgreement(CallContentHandler(m_value), params);
+}
+
+inline void XMLStreamer::Reader::EndElement(Params& params)
+{
+    bool const isAgreed = CallEndHandler();
+    RequireAgreement(isAgreed, params);
+    if (!isAgreed)
+        return;
+    m_openElements.Pop();
+    params.nextStateId = m_openElements.IsEmpty() ? Internal::AfterRoot : Internal::ElementLevel;
 }
 
 } // namespace Vek::Framework::IXMLStreamer::Native

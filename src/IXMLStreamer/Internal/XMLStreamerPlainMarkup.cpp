@@ -61,11 +61,9 @@ bool IsHarmless(char const* begin, char const* at)
 
 // Where the text in [begin, end) stops: at `stop` or a code. `end` as well when it holds what the strict syntax
 // refuses.
-template <bool isStrict, char stop>
-char const* FindTextEnd(char const* begin, char const* end)
+template <char stop>
+char const* FindStrictTextEnd(char const* begin, char const* end)
 {
-    if constexpr (!isStrict)
-        return FindAny<stop, '&'>(begin, end);
     constexpr char c_suspect = stop == '<' ? '>' : '<'; // in content, in a value
     for (char const* at = begin;; ++at)
     {
@@ -75,6 +73,12 @@ char const* FindTextEnd(char const* begin, char const* end)
         if (!IsHarmless(begin, at))
             return end;
     }
+}
+
+template <bool isStrict, char stop>
+char const* FindTextEnd(char const* begin, char const* end)
+{
+    return isStrict ? FindStrictTextEnd<stop>(begin, end) : FindAny<stop, '&'>(begin, end);
 }
 
 } // namespace
@@ -156,21 +160,34 @@ bool XMLStreamer::Reader::Consume(unsigned int state, Params& params, Text const
     return !own.isSyntaxError;
 }
 
-// Appends the text up to `stop`, codes decoded. Answers how far it came: to `stop`, to a code that is left to the state
-// table, or to the start of a text that is left to it: its end is not in memory, or it holds what is to be refused.
+// Appends the text in [at, end) up to `stop`, codes decoded. Answers how far it came: to `stop`, to a code that is left
+// to the state table, or to the start of a text that is left to it: its end is not in memory, or it holds what is to be
+// refused.
 template <bool isStrict, char stop>
 char const* XMLStreamer::Reader::AppendPlainText(char const* at, char const* end)
 {
+    char const* const textEnd = FindTextEnd<isStrict, stop>(at, end);
+    if (textEnd == end)
+        return at;
+    m_value.append(at, static_cast<std::size_t>(textEnd - at));
+    return *textEnd == stop ? textEnd : AppendFromCode<isStrict, stop>(textEnd, end);
+}
+
+// The same from a code on.
+template <bool isStrict, char stop>
+char const* XMLStreamer::Reader::AppendFromCode(char const* at, char const* end)
+{
     for (;;)
     {
-        char const* const textEnd = FindTextEnd<isStrict, stop>(at, end);
-        if (textEnd == end)
+        char const* const text = AppendNamedCode(at, end);
+        if (text == nullptr)
             return at;
-        m_value.append(at, static_cast<std::size_t>(textEnd - at));
-        char const* const next = *textEnd == stop ? nullptr : AppendNamedCode(textEnd, end);
-        if (next == nullptr)
-            return textEnd;
-        at = next;
+        at = FindTextEnd<isStrict, stop>(text, end);
+        if (at == end)
+            return text;
+        m_value.append(text, static_cast<std::size_t>(at - text));
+        if (*at == stop)
+            return at;
     }
 }
 
@@ -178,7 +195,7 @@ char const* XMLStreamer::Reader::AppendPlainText(char const* at, char const* end
 template <bool isStrict>
 bool XMLStreamer::Reader::ReadTag(char const*& at, char const* end, Params& params)
 {
-    at = isStrict ? SkipBlanks(at, end) : FindAny<'<'>(at, end);
+    at = isStrict ? FindOther<' ', '\t', '\r', '\n'>(at, end) : FindAny<'<'>(at, end);
     if (end - at < 2 || *at != '<' || at[1] == '!')
         return false;
     if (at[1] != '/')

@@ -170,10 +170,4 @@ void XMLStreamer::Reader::RaiseError(StreamerError::ResultCode code, std::string
     params.isSyntaxError = true;
 }
 
-void XMLStreamer::Reader::RequireAgreement(bool isAgreed, Params& params)
-{
-    if (!isAgreed)
-        RaiseError(StreamerError::UserDefinedError, "", params);
-}
-
 } // namespace Vek::Framework::IXMLStreamer::Native

@@ -80,6 +80,8 @@ private:
     bool ReadContent(char const*& at, char const* end, Params& params);
     template <bool isStrict, char stop>
     char const* AppendPlainText(char const* at, char const* end);
+    template <bool isStrict, char stop>
+    char const* AppendFromCode(char const* at, char const* end);
     char const* AppendNamedCode(char const* at, char const* end);
     template <auto consumer, class... Text>
     bool Consume(unsigned int state, Params& params, Text const&... text);
