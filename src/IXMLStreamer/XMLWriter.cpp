@@ -1,8 +1,9 @@
 #include <IXMLStreamer/XMLWriter.h>
 
 #include <IXMLStreamer/Internal/Escaping.h>
-#include <IXMLStreamer/Internal/KeptCapacity.h>
 #include <IXMLStreamer/Internal/NumberText.h>
+
+#include <algorithm>
 
 namespace Vek::Framework::IXMLStreamer::Native
 {
@@ -21,6 +22,23 @@ constexpr WriterError::ResultCode c_refusals[][5] = {
 };
 // clang-format on
 
+using Internal::TextBuffer;
+
+void AppendLineStart(TextBuffer& text, std::size_t tabs, std::string_view mark, std::string_view name)
+{
+    char* const start = text.Reserve(tabs + mark.size() + name.size());
+    char* const end = std::fill_n(start, tabs, '\t');
+    text.SetEnd(TextBuffer::Copy(TextBuffer::Copy(end, mark), name));
+}
+
+// With the name from the start tag, since the attribute writer may have changed what that was taken from.
+void AppendEndTag(TextBuffer& text, std::size_t nameStart, std::size_t nameSize)
+{
+    char* const start = text.Reserve(nameSize + 4);
+    std::string_view const name(text.GetData() + nameStart, nameSize);
+    text.SetEnd(TextBuffer::Copy(TextBuffer::Copy(TextBuffer::Copy(start, "</"), name), ">\n"));
+}
+
 } // namespace
 
 /// Keeps other operations out and begins with an empty draft.
@@ -29,7 +47,6 @@ class XMLWriter::RunningOperation
 public:
     explicit RunningOperation(Draft& draft) : m_draft(draft)
     {
-        m_draft.text.clear();
         m_draft.phase = Phase::Running;
         ++m_draft.number;
     }
@@ -37,7 +54,7 @@ public:
     RunningOperation& operator=(RunningOperation const&) = delete;
     ~RunningOperation()
     {
-        Internal::ReleaseIfLarge(m_draft.text);
+        m_draft.text.Clear();
         m_draft.lostAttribute = nullptr;
         m_draft.phase = Phase::Idle;
     }
@@ -79,7 +96,7 @@ bool XMLWriter::StartWriting(std::ostream& stream, bool writeDeclaration)
     m_state = Started;
     RunningOperation const running(m_draft);
     if (writeDeclaration)
-        m_draft.text += "<?xml version=\"1.0\"?>\n";
+        m_draft.text.Append("<?xml version=\"1.0\"?>\n");
     SendDraft();
     return true;
 }
@@ -96,10 +113,10 @@ bool XMLWriter::WriteBeginStructure(std::string const& name, AttributeWriter con
     AppendStartTag(name);
     if (!AppendAttributes(attributes))
         return false;
-    m_draft.text += ">\n";
+    m_draft.text.Append(">\n");
     m_openNames.reserve(m_openNames.size() + nameSize); // so that both grow or none does
     m_nameStarts.push_back(m_openNames.size());
-    m_openNames.append(m_draft.text, nameStart, nameSize); // the attribute writer may have changed `name`
+    m_openNames.append(m_draft.text.GetData() + nameStart, nameSize); // the attribute writer may have changed `name`
     m_state = Open;
     SendDraft();
     return true;
@@ -111,8 +128,8 @@ bool XMLWriter::WriteEndStructure()
         return false;
     RunningOperation const running(m_draft);
     std::size_t const nameStart = m_nameStarts.back();
-    AppendTabs(GetDepth() - 1);
-    m_draft.text.append("</").append(m_openNames, nameStart).append(">\n");
+    AppendLineStart(m_draft.text, GetDepth() - 1, "</", std::string_view(m_openNames).substr(nameStart));
+    m_draft.text.Append(">\n");
     m_openNames.resize(nameStart);
     m_nameStarts.pop_back();
     if (m_nameStarts.empty())
@@ -169,10 +186,9 @@ bool XMLWriter::WriteComment(std::string const& text)
     if (text.empty())
         return true;
     RunningOperation const running(m_draft);
-    AppendTabs(GetDepth());
-    m_draft.text += "<!--";
+    AppendLineStart(m_draft.text, GetDepth(), "<!--", {});
     Internal::AppendEscaped(m_draft.text, text);
-    m_draft.text += "-->\n";
+    m_draft.text.Append("-->\n");
     SendDraft();
     return true;
 }
@@ -226,12 +242,15 @@ bool XMLWriter::WriteInternalContentValue(std::string const& name, AppendValue c
     AppendStartTag(name);
     if (!AppendAttributes(attributes))
         return false;
-    std::size_t const tagEnd = m_draft.text.size();
-    m_draft.text += '>';
-    if (appendValue()) // the name from the start tag, since the attribute writer may have changed `name`
-        m_draft.text.append("</").append(m_draft.text, nameStart, nameSize).append(">\n");
+    std::size_t const tagEnd = m_draft.text.GetSize();
+    m_draft.text.Append('>');
+    if (appendValue())
+        AppendEndTag(m_draft.text, nameStart, nameSize);
     else
-        m_draft.text.replace(tagEnd, 1, "/>\n");
+    {
+        m_draft.text.Truncate(tagEnd);
+        m_draft.text.Append("/>\n");
+    }
     SendDraft();
     return true;
 }
@@ -259,16 +278,9 @@ bool XMLWriter::WriteNumber(std::string const& name, Number value, AttributeWrit
     return WriteInternalContentValue(name, append, attributes);
 }
 
-void XMLWriter::AppendTabs(std::size_t count)
-{
-    m_draft.text.append(count, '\t');
-}
-
 void XMLWriter::AppendStartTag(std::string const& name)
 {
-    AppendTabs(GetDepth());
-    m_draft.text += '<';
-    m_draft.text += name;
+    AppendLineStart(m_draft.text, GetDepth(), "<", name);
 }
 
 // False when an attribute was refused; what stands before it goes out then, as far as the tag came.
@@ -300,16 +312,18 @@ void XMLWriter::EmitAttribute(unsigned long long operation, std::string const& n
 // All of the attribute or nothing. An attribute writer may swallow the exception, but not the loss of the attribute.
 void XMLWriter::AppendAttribute(std::string const& name, std::string const& value)
 {
-    std::size_t const size = m_draft.text.size();
+    std::size_t const size = m_draft.text.GetSize();
     try
     {
-        m_draft.text.append(1, ' ').append(name).append("=\"");
+        char* const start = m_draft.text.Reserve(name.size() + value.size() + 4);
+        *start = ' ';
+        m_draft.text.SetEnd(TextBuffer::Copy(TextBuffer::Copy(start + 1, name), "=\""));
         Internal::AppendEscaped(m_draft.text, value);
-        m_draft.text += '"';
+        m_draft.text.Append('"');
     }
     catch (...)
     {
-        m_draft.text.resize(size);
+        m_draft.text.Truncate(size);
         m_draft.lostAttribute = std::current_exception();
         throw;
     }
@@ -317,8 +331,8 @@ void XMLWriter::AppendAttribute(std::string const& name, std::string const& valu
 
 void XMLWriter::SendDraft()
 {
-    if (!m_draft.text.empty())
-        m_stream->write(m_draft.text.data(), static_cast<std::streamsize>(m_draft.text.size()));
+    if (!m_draft.text.IsEmpty())
+        m_stream->write(m_draft.text.GetData(), static_cast<std::streamsize>(m_draft.text.GetSize()));
 }
 
 } // namespace Vek::Framework::IXMLStreamer::Native

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <IXMLStreamer/Internal/TextBuffer.h>
 #include <IXMLStreamer/WriterError.h>
 #include <VekApi.h>
 
@@ -144,7 +145,7 @@ private:
         Draft(Draft const&) noexcept {}
         Draft& operator=(Draft const&) noexcept { return *this; }
 
-        std::string text;
+        Internal::TextBuffer text;
         Phase phase = Phase::Idle;
         unsigned long long number = 0;    // of the operation; tells an emitter that was kept from the present one
         std::exception_ptr lostAttribute; // why one could not be appended
@@ -162,7 +163,6 @@ private:
     VEK_LOCAL bool WriteText(std::string const& name, GetText const& getText, AttributeWriter const& attributes);
     template <class Number>
     VEK_LOCAL bool WriteNumber(std::string const& name, Number value, AttributeWriter const& attributes);
-    void AppendTabs(std::size_t count);
     void AppendStartTag(std::string const& name);
     bool AppendAttributes(AttributeWriter const& attributes);
     VEK_LOCAL void EmitAttribute(unsigned long long operation, std::string const& name, std::string const& value);

@@ -2,10 +2,11 @@
 
 #include <IXMLStreamer/Internal/CodeTable.h>
 
-#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 
 #include <emmintrin.h>
 
@@ -17,16 +18,19 @@ namespace
 
 struct EscapedByte
 {
-    unsigned char size = 0; // 0: the byte stands as it is
+    unsigned char size = 0; // of the text; 1: the byte stands as it is
     char text[8] = {};      // "&", at most six letters, ";"
 };
 
 constexpr auto c_escapedBytes = []
 {
     std::array<EscapedByte, 256> bytes{};
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = { 1, { static_cast<char>(i) } };
     for (Code const& code : c_codes)
     {
         EscapedByte& byte = bytes[code.symbol];
+        byte.size = 0;
         byte.text[byte.size++] = '&';
         for (char const* letter = code.name; *letter != '\0'; ++letter)
             byte.text[byte.size++] = *letter;
@@ -35,61 +39,107 @@ constexpr auto c_escapedBytes = []
     return bytes;
 }();
 
-constexpr std::ptrdiff_t c_blockSize = 16;
+constexpr std::size_t c_blockSize = 16;
 
 bool IsEscaped(char c)
 {
-    return c_escapedBytes[static_cast<unsigned char>(c)].size != 0;
+    return c_escapedBytes[static_cast<unsigned char>(c)].size != 1;
 }
 
-// One bit for each byte of the block that may be escaped: all above 127, and seven of ASCII.
-unsigned int FindCandidates(char const* block)
+// One bit for each byte that may be escaped: the five codes of XML, all above 127 and, since that is asked for with
+// them, all below the space.
+unsigned int FindCandidates(__m128i bytes)
 {
-    __m128i const bytes = _mm_loadu_si128(reinterpret_cast<__m128i const*>(block));
-    __m128i hits = bytes; // for its sign bits
-    for (char const c : { '\n', '\r', '"', '&', '\'', '<', '>' })
-        hits = _mm_or_si128(hits, _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)));
-    return static_cast<unsigned int>(_mm_movemask_epi8(hits));
+    auto const equals = [](__m128i block, char c) { return _mm_cmpeq_epi8(block, _mm_set1_epi8(c)); };
+    auto const with = [bytes](char bits) { return _mm_or_si128(bytes, _mm_set1_epi8(bits)); };
+    __m128i const others = _mm_cmplt_epi8(bytes, _mm_set1_epi8(' ')); // signed
+    __m128i const quotes = _mm_or_si128(equals(bytes, '"'), equals(with('&' ^ '\''), '\''));
+    __m128i const brackets = equals(with('<' ^ '>'), '>');
+    return static_cast<unsigned int>(_mm_movemask_epi8(_mm_or_si128(_mm_or_si128(others, quotes), brackets)));
 }
 
-// `begin` is where the text begins, which may lie before `at`.
-char const* FindEscaped(char const* begin, char const* at, char const* end)
+unsigned int CopyBlock(char* target, char const* text)
 {
-    while (end - at >= c_blockSize)
-    {
-        unsigned int const candidates = FindCandidates(at);
-        if (candidates == 0)
-        {
-            at += c_blockSize;
-            continue;
-        }
-        at += std::countr_zero(candidates);
-        if (IsEscaped(*at))
-            return at;
-        ++at;
-    }
-    if (end - begin >= c_blockSize) // the last whole block, without what is behind us
-        if (FindCandidates(end - c_blockSize) >> (c_blockSize - (end - at)) == 0)
-            return end;
-    return std::find_if(at, end, IsEscaped);
+    __m128i const block = _mm_loadu_si128(reinterpret_cast<__m128i const*>(text));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(target), block);
+    return FindCandidates(block);
+}
+
+// Copies a text of at least one block up to the first candidate and answers how far that is. What lies behind it in
+// `target` is undefined.
+std::size_t CopyLong(char* target, char const* text, std::size_t size)
+{
+    std::size_t at = 0;
+    for (; size - at >= c_blockSize; at += c_blockSize)
+        if (unsigned int const candidates = CopyBlock(target + at, text + at); candidates != 0)
+            return at + static_cast<std::size_t>(std::countr_zero(candidates));
+    if (at == size)
+        return size;
+    std::size_t const last = size - c_blockSize; // the last whole block, without what is behind us
+    unsigned int const candidates = CopyBlock(target + last, text + last) >> (at - last);
+    return candidates == 0 ? size : at + static_cast<std::size_t>(std::countr_zero(candidates));
+}
+
+// A word in the low bytes, zeros above.
+
+__m128i Load(std::uint64_t const* word)
+{
+    return _mm_loadl_epi64(reinterpret_cast<__m128i const*>(word));
+}
+
+__m128i Load(std::uint32_t const* word)
+{
+    return _mm_cvtsi32_si128(static_cast<int>(*word));
+}
+
+// Copies a text that is at least one and at most two words long, if there is no candidate in it. Its two ends meet or
+// overlap.
+template <class Word>
+bool CopyEnds(char* target, char const* text, std::size_t size)
+{
+    Word first;
+    Word last;
+    std::memcpy(&first, text, sizeof(Word));
+    std::memcpy(&last, text + size - sizeof(Word), sizeof(Word));
+    constexpr unsigned int c_bytes = ((1U << sizeof(Word)) - 1) * 0x101;
+    if ((FindCandidates(_mm_unpacklo_epi64(Load(&first), Load(&last))) & c_bytes) != 0)
+        return false;
+    std::memcpy(target, &first, sizeof(Word));
+    std::memcpy(target + size - sizeof(Word), &last, sizeof(Word));
+    return true;
+}
+
+// The same as CopyLong for a shorter text.
+std::size_t CopyShort(char* target, char const* text, std::size_t size)
+{
+    if (size >= sizeof(std::uint64_t) ? CopyEnds<std::uint64_t>(target, text, size)
+                                      : size >= sizeof(std::uint32_t) && CopyEnds<std::uint32_t>(target, text, size))
+        return size;
+    std::size_t at = 0;
+    for (; at < size && !IsEscaped(text[at]); ++at)
+        target[at] = text[at];
+    return at;
 }
 
 } // namespace
 
-void AppendEscaped(std::string& target, std::string_view text)
+void AppendEscaped(TextBuffer& target, std::string_view text)
 {
-    char const* const begin = text.data();
-    char const* const end = begin + text.size();
-    char const* run = begin;
+    char* end = target.Reserve(text.size());
     for (;;)
     {
-        char const* const stop = FindEscaped(begin, run, end);
-        target.append(run, stop);
-        if (stop == end)
+        std::size_t const size = text.size();
+        std::size_t const plain =
+            size < c_blockSize ? CopyShort(end, text.data(), size) : CopyLong(end, text.data(), size);
+        end += plain;
+        target.SetEnd(end);
+        if (plain == size)
             return;
-        EscapedByte const& byte = c_escapedBytes[static_cast<unsigned char>(*stop)];
-        target.append(byte.text, byte.size);
-        run = stop + 1;
+        EscapedByte const& byte = c_escapedBytes[static_cast<unsigned char>(text[plain])];
+        text.remove_prefix(plain + 1);
+        end = target.Reserve(text.size() + sizeof(byte.text));
+        std::memcpy(end, byte.text, sizeof(byte.text));
+        end += byte.size;
     }
 }
 

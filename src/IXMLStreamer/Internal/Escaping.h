@@ -1,12 +1,14 @@
 #pragma once
 
-#include <string>
+#include <IXMLStreamer/Internal/TextBuffer.h>
+
 #include <string_view>
 
 namespace Vek::Framework::IXMLStreamer::Native::Internal
 {
 
-/// Appends `text` to `target`, every byte that has a name in XMLCodes as "&", the name and ";".
-void AppendEscaped(std::string& target, std::string_view text);
+/// Appends `text` to `target`, every byte that has a name in XMLCodes as "&", the name and ";". When it throws,
+/// `target` holds a part.
+void AppendEscaped(TextBuffer& target, std::string_view text);
 
 } // namespace Vek::Framework::IXMLStreamer::Native::Internal

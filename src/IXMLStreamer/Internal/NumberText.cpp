@@ -3,6 +3,7 @@
 #include <iterator>
 #include <locale>
 #include <streambuf>
+#include <string_view>
 
 namespace Vek::Framework::IXMLStreamer::Native::Internal
 {
@@ -10,33 +11,33 @@ namespace Vek::Framework::IXMLStreamer::Native::Internal
 namespace
 {
 
-/// Takes what is written at the end of a string.
+/// Takes what is written at the end of a text.
 class AppendingBuffer : public std::streambuf
 {
 public:
-    explicit AppendingBuffer(std::string& target) : m_target(target) {}
+    explicit AppendingBuffer(TextBuffer& target) : m_target(target) {}
 
 protected:
     int_type overflow(int_type c) override
     {
         if (!traits_type::eq_int_type(c, traits_type::eof()))
-            m_target += traits_type::to_char_type(c);
+            m_target.Append(traits_type::to_char_type(c));
         return traits_type::not_eof(c);
     }
 
     std::streamsize xsputn(char const* text, std::streamsize size) override
     {
-        m_target.append(text, static_cast<std::size_t>(size));
+        m_target.Append(std::string_view(text, static_cast<std::size_t>(size)));
         return size;
     }
 
 private:
-    std::string& m_target;
+    TextBuffer& m_target;
 };
 
 // The facet that formatted output of arithmetic types is defined by, with the stream as its format.
 template <class Number>
-void Format(std::string& target, std::ostream& stream, Number value)
+void Format(TextBuffer& target, std::ostream& stream, Number value)
 {
     AppendingBuffer buffer(target);
     std::use_facet<std::num_put<char>>(stream.getloc())
@@ -45,7 +46,7 @@ void Format(std::string& target, std::ostream& stream, Number value)
 
 } // namespace
 
-void AppendNumber(std::string& target, std::ostream& stream, int value)
+void AppendNumber(TextBuffer& target, std::ostream& stream, int value)
 {
     // Octal and hexadecimal show the bits of an int, not those of the wider type that the facet takes.
     std::ios_base::fmtflags const base = stream.flags() & std::ios_base::basefield;
@@ -55,12 +56,12 @@ void AppendNumber(std::string& target, std::ostream& stream, int value)
         Format(target, stream, static_cast<long>(value));
 }
 
-void AppendNumber(std::string& target, std::ostream& stream, unsigned int value)
+void AppendNumber(TextBuffer& target, std::ostream& stream, unsigned int value)
 {
     Format(target, stream, static_cast<unsigned long>(value));
 }
 
-void AppendNumber(std::string& target, std::ostream& stream, double value)
+void AppendNumber(TextBuffer& target, std::ostream& stream, double value)
 {
     Format(target, stream, value);
 }
