@@ -42,6 +42,15 @@ std::string MakeAttributes(std::size_t count)
     return Wrap("<x" + Repeat(" name=\"value\"", count) + "></x>");
 }
 
+/// A name may stand once in a tag.
+std::string MakeDifferentAttributes(std::size_t count)
+{
+    std::string text;
+    for (; count > 0; --count)
+        text += " name" + std::to_string(count) + "=\"value\"";
+    return Wrap("<x" + text + "></x>");
+}
+
 std::string MakeNested(std::size_t count)
 {
     return Wrap(Repeat("<x>", count) + Repeat("</x>", count));
@@ -84,10 +93,11 @@ double Measure(Prepare const& prepare, Function const& run)
     return fastest;
 }
 
-template <std::string (*make)(std::size_t)>
+template <std::string (*make)(std::size_t), XMLStreamer::Syntax syntax = XMLStreamer::Lenient>
 double Read(std::size_t size)
 {
     XMLStreamer streamer;
+    streamer.SetSyntax(syntax);
     streamer.CreateRootStructureElement("settings").CreateContentElement("title");
     std::string const document = make(size);
     return Measure([&] { return Benchmarks::ViewStream(document); },
@@ -154,6 +164,8 @@ int main()
     };
     Case const cases[] = {
         { "attributes in one tag", Read<MakeAttributes>, 1'000'000 },
+        { "different attributes in one tag, strict syntax", Read<MakeDifferentAttributes, XMLStreamer::Strict>,
+          1'000'000 },
         { "nested elements", Read<MakeNested>, 1'000'000 },
         { "bytes in one text", Read<MakeText>, 64 << 20 },
         { "codes in one text", Read<MakeCodes>, 4'000'000 },

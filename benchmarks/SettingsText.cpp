@@ -28,6 +28,24 @@ Setting MakeSetting(std::mt19937& random, Codes codes)
              codes == Codes::Few ? Pick(c_plainValues, random) : Pick(c_codedValues, random) };
 }
 
+// Every group but each `depth`-th stays open for the next one.
+std::string MakeBody(std::vector<Group> const& groups, std::size_t depth)
+{
+    std::string text = "<settings format=\"2\">\n";
+    std::size_t open = 0;
+    for (Group const& group : groups)
+    {
+        text += "\t<group name=\"" + group.name + "\" id=\"" + group.id + "\">\n";
+        for (Setting const& setting : group.settings)
+            text += "\t\t<setting name=\"" + setting.name + "\" type=\"" + setting.type + "\">" + setting.value +
+                    "</setting>\n";
+        if (++open == depth || &group == &groups.back())
+            for (; open > 0; --open)
+                text += "\t</group>\n";
+    }
+    return text + "</settings>\n";
+}
+
 } // namespace
 
 std::vector<Group> MakeGroups(std::size_t size, Codes codes)
@@ -51,16 +69,12 @@ std::vector<Group> MakeGroups(std::size_t size, Codes codes)
 
 std::string MakeBody(std::vector<Group> const& groups)
 {
-    std::string text = "<settings format=\"2\">\n";
-    for (Group const& group : groups)
-    {
-        text += "\t<group name=\"" + group.name + "\" id=\"" + group.id + "\">\n";
-        for (Setting const& setting : group.settings)
-            text += "\t\t<setting name=\"" + setting.name + "\" type=\"" + setting.type + "\">" + setting.value +
-                    "</setting>\n";
-        text += "\t</group>\n";
-    }
-    return text + "</settings>\n";
+    return MakeBody(groups, 1);
+}
+
+std::string MakeNestedBody(std::vector<Group> const& groups)
+{
+    return MakeBody(groups, 4);
 }
 
 } // namespace Benchmarks

@@ -34,6 +34,9 @@ std::vector<Group> MakeGroups(std::size_t size, Codes codes);
 /// The document without its declaration, indented by tabs.
 std::string MakeBody(std::vector<Group> const& groups);
 
+/// The same with groups in groups, four deep.
+std::string MakeNestedBody(std::vector<Group> const& groups);
+
 extern char const c_declaration[];
 
 /// A reader's count of what it was told; equal for all contestants.

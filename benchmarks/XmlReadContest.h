@@ -8,42 +8,52 @@
 namespace Benchmarks
 {
 
-/// A settings document of 10 or 100 MB (Codes::Few), made when a benchmark that reads it runs.
-inline std::string const& GetDocument(std::size_t megabytes, Codes codes)
+/// What is read, and under which name. The text is made when a benchmark that reads it runs.
+struct Document
 {
-    auto const make = [](std::size_t size, Codes kind) { return c_declaration + MakeBody(MakeGroups(size, kind)); };
-    if (codes == Codes::Many)
-    {
-        static std::string const s_many10 = make(10'000'000, Codes::Many);
-        return s_many10;
-    }
-    if (megabytes == 100)
-    {
-        static std::string const s_few100 = make(100'000'000, Codes::Few);
-        return s_few100;
-    }
-    static std::string const s_few10 = make(10'000'000, Codes::Few);
-    return s_few10;
-}
-
-struct DocumentSize
-{
-    std::size_t megabytes;
-    Codes codes;
+    char const* workload;
+    std::string const& (*get)();
 };
 
-inline void Report(benchmark::State& state, DocumentSize const& size)
+template <std::size_t size, Codes codes>
+std::string const& GetSettings()
 {
-    Report(state, GetDocument(size.megabytes, size.codes).size());
+    static std::string const s_text = c_declaration + MakeBody(MakeGroups(size, codes));
+    return s_text;
+}
+
+inline std::string const& GetNestedSettings()
+{
+    static std::string const s_text = c_declaration + MakeNestedBody(MakeGroups(10'000'000, Codes::Few));
+    return s_text;
+}
+
+inline std::string const& GetInvoice()
+{
+    static std::string const s_text = "<?xml version=\"1.0\"?>\n<rechnung><kopf><nummer>2024/17</nummer></kopf><posten>"
+                                      "<artikel>Stuhl</artikel><menge einheit=\"St\">4</menge><preis>89,90</preis>"
+                                      "</posten><summe>359,60</summe></rechnung>\n";
+    return s_text;
+}
+
+constexpr Document c_settings10{ "XmlRead10MB", GetSettings<10'000'000, Codes::Few> };
+constexpr Document c_settings100{ "XmlRead100MB", GetSettings<100'000'000, Codes::Few> };
+constexpr Document c_coded10{ "XmlReadCodes10MB", GetSettings<10'000'000, Codes::Many> };
+constexpr Document c_strict10{ "XmlReadStrict10MB", GetSettings<10'000'000, Codes::Few> };
+constexpr Document c_nested10{ "XmlReadNested10MB", GetNestedSettings };
+constexpr Document c_smallNew{ "XmlReadSmallNewReader", GetInvoice };
+constexpr Document c_smallAgain{ "XmlReadSmallAgain", GetInvoice };
+
+inline void Report(benchmark::State& state, Document const& document)
+{
+    Report(state, document.get().size());
 }
 
 /// `read` counts what the document holds.
 template <class Read>
-void RegisterReader(std::string const& contestant, std::size_t megabytes, Codes codes, Read const& read)
+void RegisterReader(std::string const& contestant, Document const& document, Read const& read)
 {
-    std::string const workload = codes == Codes::Many ? "XmlReadCodes" : "XmlRead";
-    Register(workload + std::to_string(megabytes) + "MB/" + contestant, DocumentSize{ megabytes, codes },
-             [=] { return read(GetDocument(megabytes, codes)); });
+    Register(document.workload + ("/" + contestant), document, [=] { return read(document.get()); });
 }
 
 } // namespace Benchmarks

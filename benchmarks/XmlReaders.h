@@ -12,6 +12,12 @@ namespace Benchmarks
 {
 
 Totals ReadWithOurs(std::istream& stream);
+Totals ReadStrictlyWithOurs(std::istream& stream);
+/// Groups may hold groups, by one description that uses itself.
+Totals ReadNestedWithOurs(std::istream& stream);
+/// The small document, with ten elements described.
+Totals ReadInvoiceWithNewReader(std::istream& stream);
+Totals ReadInvoiceWithUsedReader(std::istream& stream);
 Totals ReadWithExpat(std::string const& document);
 Totals ReadWithLibxml2(std::string const& document);
 Totals ReadWithOrcus(std::string const& document);

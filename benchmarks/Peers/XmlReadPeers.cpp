@@ -30,15 +30,21 @@ Totals ReadCodesWithLibxml2(std::string const& document)
 
 bool const c_isRegistered = []
 {
-    for (std::size_t const megabytes : { 10, 100 })
+    for (Document const& document : { c_settings10, c_settings100 })
     {
-        RegisterReader("expat", megabytes, Codes::Few, ReadWithExpat);
-        RegisterReader("libxml2", megabytes, Codes::Few, ReadWithLibxml2);
-        RegisterReader("orcus", megabytes, Codes::Few, ReadWithOrcus);
-        RegisterReader("rapidxml", megabytes, Codes::Few, ReadWithRapidxml);
-        RegisterReader("pugixml", megabytes, Codes::Few, ReadWithPugixml);
+        RegisterReader("expat", document, ReadWithExpat);
+        RegisterReader("libxml2", document, ReadWithLibxml2);
+        RegisterReader("orcus", document, ReadWithOrcus);
+        RegisterReader("rapidxml", document, ReadWithRapidxml);
+        RegisterReader("pugixml", document, ReadWithPugixml);
     }
-    RegisterReader("libxml2", 10, Codes::Many, ReadCodesWithLibxml2);
+    RegisterReader("libxml2", c_coded10, ReadCodesWithLibxml2);
+    RegisterReader("expat", c_strict10, ReadWithExpat);
+    RegisterReader("libxml2", c_strict10, ReadWithLibxml2);
+    RegisterReader("libxml2", c_nested10, ReadWithLibxml2);
+    RegisterReader("orcus", c_nested10, ReadWithOrcus);
+    for (Document const& document : { c_smallNew, c_smallAgain })
+        RegisterReader("pugixml", document, ReadWithPugixml);
     return true;
 }();
 
