@@ -35,6 +35,14 @@ void RegisterCodePage()
         ToUtf16<std::wstring>);
 }
 
+/// Nothing is found, so that all of the text is looked through.
+void RegisterSearch()
+{
+    std::wstring const text = WStringHelper::GetUTF16FromUTF8(MakeUtf8(Language::English));
+    Register("ContainsIgnoreCase/ours", text.size(),
+             [=] { return WStringHelper::ContainsIgnoreCase(text, L"Offices Furniture"); });
+}
+
 void RegisterComparison()
 {
     std::wstring const a = c_mixedCase;
@@ -52,6 +60,7 @@ bool const c_isRegistered = []
     RegisterLanguage("German", Language::German);
     RegisterLanguage("English", Language::English);
     RegisterCodePage();
+    RegisterSearch();
     RegisterComparison();
     return true;
 }();

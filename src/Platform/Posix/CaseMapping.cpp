@@ -1,5 +1,5 @@
 #include <Platform/CaseMapping.h>
-#include <Platform/SubstringMatcher.h>
+#include <Platform/FoldedSearch.h>
 #include <Platform/WideBlock.h>
 
 #include <cwctype>
@@ -95,18 +95,7 @@ void MapToUserUpperCase(char16_t first, CasePage& page)
 
 bool IsFoundIgnoringCase(std::wstring const& text, std::wstring const& part)
 {
-    std::wstring pattern;
-    for (wchar_t const* unit = part.c_str(); *unit != L'\0'; ++unit)
-        pattern.push_back(FoldForSearch(*unit));
-    if (pattern.empty())
-        return false;
-    SubstringMatcher<wchar_t> matcher(pattern);
-    for (wchar_t const* unit = text.c_str(); *unit != L'\0'; ++unit)
-    {
-        if (matcher.Feed(FoldForSearch(*unit)))
-            return true;
-    }
-    return false;
+    return IsFoundFolded(text.c_str(), part.c_str(), [](wchar_t unit) { return FoldForSearch(unit); });
 }
 
 } // namespace Vek::Platform
