@@ -182,6 +182,27 @@ TEST_F(MainDialogTest, AnInvoiceIsMadeByKeys)
     EXPECT_EQ(GetInvoices().back().lines.size(), 2u);
 }
 
+TEST_F(MainDialogTest, TemplatesChangeWithOkOnly)
+{
+    auto const getMargin = [this] { return m_session.GetTemplates().Get(L"Standard").margin; };
+    Run({
+        Script::Command(COMMAND_TEMPLATES),
+        Script::Type(CONTROL_MARGIN, L"12.5"),
+        Script::Key(CONTROL_MARGIN, VK_RETURN),
+        ExpectSelected(CONTROL_MARGIN, 2, 3),
+        Script::Type(CONTROL_MARGIN, L"12,5"),
+        Script::Key(CONTROL_MARGIN, VK_ESCAPE),
+        Script::Expect(L"verworfen werden?"),
+        Script::Command(IDNO),
+        [getMargin](HWND) { EXPECT_EQ(getMargin(), 20); },
+        Script::Key(CONTROL_MARGIN, VK_RETURN),
+        [getMargin](HWND) { EXPECT_EQ(getMargin() * 10, 125); },
+        Script::Key(CONTROL_INVOICES, VK_ESCAPE),
+        Script::Expect(L"gespeichert werden?"),
+        Script::Command(IDNO),
+    });
+}
+
 } // namespace
 
 } // namespace Tests
