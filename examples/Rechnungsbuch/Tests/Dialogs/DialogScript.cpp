@@ -12,6 +12,14 @@ namespace
 
 constexpr int c_patience = 200; // ticks without a dialog
 
+/// Of this thread, until it is set again.
+void HoldCtrl(bool isHeld)
+{
+    BYTE keys[256]{};
+    keys[VK_CONTROL] = isHeld ? 0x80 : 0;
+    SetKeyboardState(keys);
+}
+
 std::vector<DialogScript::Step> s_steps;
 std::size_t s_next = 0;
 int s_missed = 0;
@@ -28,6 +36,7 @@ BOOL CALLBACK FindFront(HWND window, LPARAM found)
 
 void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD)
 {
+    HoldCtrl(false);
     HWND front = nullptr;
     EnumThreadWindows(GetCurrentThreadId(), FindFront, reinterpret_cast<LPARAM>(&front));
     if (front == nullptr)
@@ -67,6 +76,15 @@ DialogScript::Step DialogScript::Command(int id)
 DialogScript::Step DialogScript::Key(int controlId, int key)
 {
     return [=](HWND front) { PostMessageW(GetDlgItem(front, controlId), WM_KEYDOWN, static_cast<WPARAM>(key), 0); };
+}
+
+DialogScript::Step DialogScript::CtrlKey(int controlId, int key)
+{
+    return [press = Key(controlId, key)](HWND front)
+    {
+        HoldCtrl(true);
+        press(front);
+    };
 }
 
 DialogScript::Step DialogScript::Type(int controlId, std::wstring const& text)

@@ -25,6 +25,7 @@ public:
 
     static Step Command(int id);
     static Step Key(int controlId, int key);
+    static Step CtrlKey(int controlId, int key);
     static Step Type(int controlId, std::wstring const& text);
     static Step Select(int listId, int index);
     /// The title and texts of the dialog in front contain this.

@@ -93,7 +93,7 @@ TEST_F(MainDialogTest, MarksAsPaidAndTakesItBack)
     ASSERT_FALSE(GetInvoices()[last].IsPaid());
     Run({
         Script::Select(CONTROL_INVOICES, static_cast<int>(last)),
-        Script::Command(COMMAND_PAID),
+        Script::CtrlKey(CONTROL_INVOICES, L'B'),
         Script::Type(CONTROL_ANSWER, L"31.2.2025"),
         Script::Key(CONTROL_ANSWER, VK_RETURN),
         ExpectSelected(CONTROL_ANSWER, 0, 1), // the day is wrong
@@ -106,7 +106,9 @@ TEST_F(MainDialogTest, MarksAsPaidAndTakesItBack)
             GetMenuStringW(GetMenu(front), COMMAND_UNDO, text, 200, MF_BYCOMMAND);
             EXPECT_TRUE(std::wstring(text).starts_with(L"&R\u00FCckg\u00E4ngig: Rechnung 2025-010 ")) << text;
         },
-        Script::Command(COMMAND_UNDO),
+        Script::CtrlKey(CONTROL_FILTER, L'Z'), // of the filter's text
+        [this, last](HWND) { EXPECT_TRUE(GetInvoices()[last].IsPaid()); },
+        Script::CtrlKey(CONTROL_INVOICES, L'Z'),
         [this, last](HWND) { EXPECT_FALSE(GetInvoices()[last].IsPaid()); },
         Script::Key(CONTROL_INVOICES, VK_ESCAPE),
     });
@@ -131,7 +133,7 @@ TEST_F(MainDialogTest, AFileThatIsHeldLosesNothing)
     Run({
         Script::Key(CONTROL_INVOICES, VK_DELETE),
         Script::Expect(L"B\u00FCcher.xml *"),
-        Script::Command(COMMAND_SAVE),
+        Script::CtrlKey(CONTROL_INVOICES, L'S'),
         Script::Expect(L"B\u00FCcher.xml"), // the message
         Script::Command(IDOK),
         Script::Key(CONTROL_INVOICES, VK_ESCAPE),
@@ -144,7 +146,7 @@ TEST_F(MainDialogTest, AFileThatIsHeldLosesNothing)
             CloseHandle(held);
             EXPECT_EQ(ReadFile(path), before);
         },
-        Script::Command(COMMAND_SAVE),
+        Script::CtrlKey(CONTROL_FILTER, L'S'),
         [this](HWND) { EXPECT_TRUE(m_session.IsSaved()); },
         Script::Key(CONTROL_INVOICES, VK_ESCAPE),
     });
