@@ -47,10 +47,10 @@ public:
     State* RegisterState(unsigned int id, WhiteSpaceHandling whiteSpaceHandling);
 
     /// Runs over the stream to its end, or until a consumer ends the run; true when the result's code is Ok.
-    /// By block, the stream is read up to 1 MiB at a time; otherwise never further than recognition needs, so that a host
-    /// can go on reading behind the token that stopped the run. The callbacks are the same.
-    /// A stream that is not good counts as ended. Throws NullPointerException when no state is registered, and
-    /// std::out_of_range when a consumer names a state that is not.
+    /// By block, the stream is read up to 1 MiB at a time; otherwise never further than recognition needs, so that a
+    /// host can go on reading behind the token that stopped the run. The callbacks are the same. A stream that is not
+    /// good counts as ended. Throws NullPointerException when no state is registered, and std::out_of_range when a
+    /// consumer names a state that is not.
     bool ProcessSource(std::istream& stream, bool useBlockBuffer);
 
     /// The same over `source`, which must not change during the run.
