@@ -3,8 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <exception>
+#include <tuple>
+#include <vector>
 
 // Included before every test, so that it stands in for GoogleTest's SCOPED_TRACE.
+
+/// A table, whose columns get their names where it is walked:
+/// `Rows<int, char const*> const rows = { { 1, "one" } }; for (auto const& [number, why] : rows)`.
+template <class... Columns>
+using Rows = std::vector<std::tuple<Columns...>>;
 
 namespace Tests
 {

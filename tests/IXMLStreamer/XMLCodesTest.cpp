@@ -39,17 +39,16 @@ TEST(XMLCodes, EveryByteGoesToItsNameAndBack)
 TEST(XMLCodes, NamesStandAtTheirBytes)
 {
     // clang-format off
-    struct Row { char byte; char const* name; };
     // Both ends of every run of the table.
-    Row const rows[] = {
+    Rows<char, char const*> const rows = {
         { '\n', "#10" }, { '\r', "#13" }, { '<', "lt" }, { '>', "gt" }, { '&', "amp" }, { '\'', "apos" },
         { '"', "quot" }, { '\241', "iexcl" }, { '\254', "not" }, { '\256', "reg" }, { '\277', "iquest" },
         { '\300', "Agrave" }, { '\327', "times" }, { '\337', "szlig" }, { '\367', "divide" }, { '\377', "yuml" },
         { '\200', "euro" },
     };
     // clang-format on
-    for (Row const& row : rows)
-        EXPECT_STREQ(row.name, XMLCodes::FindCode(row.byte));
+    for (auto const& [byte, name] : rows)
+        EXPECT_STREQ(name, XMLCodes::FindCode(byte));
 }
 
 TEST(XMLCodes, OnlyWholeNamesInTheirCaseAreFound)

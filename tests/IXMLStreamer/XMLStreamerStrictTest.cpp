@@ -121,7 +121,7 @@ TEST(XMLStreamerStrict, VeryManyAttributesAndOneOnceMore)
 TEST(XMLStreamerStrict, TheDeclaredEncodingIsToldAndMayBeAny)
 {
     // clang-format off
-    struct { char const* declaration; char const* encoding; bool isStrict; bool isStrictInAny; } const rows[] = {
+    Rows<char const*, char const*, bool, bool> const rows = {
         { "<?xml version='1.0'?>", "", true, true },
         { "<?xml version='1.0' encoding='ISO-8859-1'?>", "ISO-8859-1", true, true },
         { "<?xml version='1.0' encoding='us-ascii'?>", "us-ascii", true, true },
@@ -133,20 +133,20 @@ TEST(XMLStreamerStrict, TheDeclaredEncodingIsToldAndMayBeAny)
         { "<?xml version='1.0' xencoding='x' encoding encoding='y'?>", "y", false, false },
     };
     // clang-format on
-    for (auto const& row : rows)
+    for (auto const& [declaration, encoding, isStrict, isStrictInAny] : rows)
     {
-        SCOPED_TRACE(row.declaration);
+        SCOPED_TRACE(declaration);
         std::string told;
         XMLStreamer reader;
         reader.CreateRootStructureElement("a").SetOnBegin(0, [&](auto&)
                                                           { return told = reader.GetDeclaredEncoding(), true; });
-        std::string const document = std::string(row.declaration) + "<a></a>";
+        std::string const document = std::string(declaration) + "<a></a>";
         EXPECT_TRUE(reader.ProcessSource(document));
-        EXPECT_EQ(row.encoding, told);
-        EXPECT_EQ(row.encoding, reader.GetDeclaredEncoding());
+        EXPECT_EQ(encoding, told);
+        EXPECT_EQ(encoding, reader.GetDeclaredEncoding());
         reader.SetSyntax(c_strict);
-        EXPECT_EQ(row.isStrict, reader.ProcessSource(document));
+        EXPECT_EQ(isStrict, reader.ProcessSource(document));
         reader.SetSyntax(XMLStreamer::StrictInAnyEncoding);
-        EXPECT_EQ(row.isStrictInAny, reader.ProcessSource(document));
+        EXPECT_EQ(isStrictInAny, reader.ProcessSource(document));
     }
 }

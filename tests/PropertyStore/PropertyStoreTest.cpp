@@ -184,16 +184,8 @@ TEST(PropertyStore, PrefixesAndBrokenStreams)
 
 TEST(PropertyStore, BadDocumentsAreToldWithTheirPlace)
 {
-    struct Row
-    {
-        Code code;
-        int line;
-        char const* path;
-        char const* root; // attributes
-        char const* content;
-    };
     // "S" is a standard collection; a path is below "/propertyStore" unless it is "-".
-    Row const rows[] = {
+    Rows<Code, int, char const*, char const*, char const*> const rows = {
         { Code::UnknownVersion, 2, "", "version='3'", "" },
         { Code::UnknownVersion, 2, "", "version='0'", "" },
         { Code::UnknownVersion, 2, "", "", "" },
@@ -222,20 +214,20 @@ TEST(PropertyStore, BadDocumentsAreToldWithTheirPlace)
         { Code::DuplicateKind, 5, "/collection/property", "version='2'",
           "S<property kind='2'>1</property>\n<property kind='2'>1</property>" },
     };
-    for (Row const& row : rows)
+    for (auto const& [code, line, path, root, stored] : rows)
     {
-        std::string content = row.content;
+        std::string content = stored;
         if (content[0] == 'S')
             content.replace(0, 1, "<collection id='0' name='s'>\n");
         std::string const document =
-            std::string("<?xml version='1.0'?>\n<propertyStore ") + row.root + ">\n" + content + "\n</propertyStore>";
+            std::string("<?xml version='1.0'?>\n<propertyStore ") + root + ">\n" + content + "\n</propertyStore>";
         SCOPED_TRACE(document);
         Settings settings;
         std::string const before = Save(settings);
         PropertyStoreResult const result = Load(settings, document);
-        EXPECT_EQ(row.code, result.code);
-        EXPECT_EQ(row.line, result.line);
-        EXPECT_EQ(row.path[0] == '-' ? "" : std::string("/propertyStore") + row.path, result.path);
+        EXPECT_EQ(code, result.code);
+        EXPECT_EQ(line, result.line);
+        EXPECT_EQ(path[0] == '-' ? "" : std::string("/propertyStore") + path, result.path);
         EXPECT_FALSE(result.text.empty());
         EXPECT_EQ(before, Save(settings));
     }

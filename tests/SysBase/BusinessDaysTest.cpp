@@ -14,9 +14,6 @@
 #include <utility>
 #include <vector>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -227,5 +224,3 @@ TEST(BusinessDays, AroundClosingDaysOfTarget)
 }
 
 } // namespace
-
-} // namespace Tests

@@ -20,9 +20,6 @@
 #include <sstream>
 #include <string>
 
-namespace Tests
-{
-
 using namespace VekSysBase;
 
 // tables/make-tables.py says how the tables were made.
@@ -47,17 +44,11 @@ TEST(CalendarTables, MovableHolidaysByEpacts)
 // The closed days between Monday and Friday.
 TEST(CalendarTables, OpenDaysByQuantLib)
 {
-    struct Row
+    for (auto const& [name, firstYear, isOpen] : Rows<std::string, int, bool (*)(VekDateEx const&) noexcept>{
+             { "target-closing-days.txt", 2002, IsTargetTag }, { "austria-free-weekdays.txt", 1967, IsWerktag } })
     {
-        std::string file;
-        int firstYear;
-        bool (*isOpen)(VekDateEx const&) noexcept;
-    };
-    for (Row const& row :
-         { Row{ "target-closing-days.txt", 2002, IsTargetTag }, Row{ "austria-free-weekdays.txt", 1967, IsWerktag } })
-    {
-        std::ifstream file(VEK_CALENDAR_TABLES + row.file);
-        VekDateEx date(1, 1, row.firstYear);
+        std::ifstream file(VEK_CALENDAR_TABLES + name);
+        VekDateEx date(1, 1, firstYear);
         for (std::string line; std::getline(file, line);)
         {
             std::istringstream words(line);
@@ -69,10 +60,10 @@ TEST(CalendarTables, OpenDaysByQuantLib)
             for (; date.GetYear() == year; date.AddDays(1))
             {
                 bool const isWeekend = date.GetDayOfWeek() >= DayOfWeek::Saturday;
-                ASSERT_EQ(row.isOpen(date), !isWeekend && !closed.contains(date)) << testing::PrintToString(date);
+                ASSERT_EQ(isOpen(date), !isWeekend && !closed.contains(date)) << testing::PrintToString(date);
             }
         }
-        EXPECT_EQ(date, VekDateEx(1, 1, 2200)) << row.file;
+        EXPECT_EQ(date, VekDateEx(1, 1, 2200)) << name;
     }
 }
 
@@ -124,31 +115,21 @@ TEST(Heute, IsTheDayOfNow)
 
 TEST(Zinstage, ByEveryMethod)
 {
-    struct Row
-    {
-        VekDateEx from;
-        VekDateEx to;
-        int months30;
-        int calendar;
-        char const* why;
-    };
-    Row const rows[] = {
+    Rows<VekDateEx, VekDateEx, int, int, char const*> const rows = {
         { { 1, 1, 2024 }, { 1, 1, 2025 }, 360, 366, "a leap year" },
         { { 31, 3, 2023 }, { 30, 4, 2023 }, 30, 30, "the 31st is the 30th" },
         { { 28, 2, 2023 }, { 1, 3, 2023 }, 3, 1, "the end of February stays" },
         { { 31, 2, 2023 }, { 1, 3, 2023 }, 0, 0, "an invalid date" },
     };
-    for (Row const& row : rows)
+    for (auto const& [from, to, months30, calendar, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        EXPECT_EQ(Zinstage(row.from, row.to, Zinsmethode::Monate30Jahr360), row.months30);
-        EXPECT_EQ(Zinstage(row.to, row.from, Zinsmethode::Monate30Jahr360), -row.months30);
+        SCOPED_TRACE(why);
+        EXPECT_EQ(Zinstage(from, to, Zinsmethode::Monate30Jahr360), months30);
+        EXPECT_EQ(Zinstage(to, from, Zinsmethode::Monate30Jahr360), -months30);
         for (Zinsmethode const method : { Zinsmethode::Kalender360, Zinsmethode::Kalender365 })
-            EXPECT_EQ(Zinstage(row.from, row.to, method), row.calendar);
+            EXPECT_EQ(Zinstage(from, to, method), calendar);
     }
     auto const unknown = static_cast<Zinsmethode>(3);
     EXPECT_THROW(Zinstage(VekDateEx(), VekDateEx(), unknown), Vek::EnumOutOfRangeException);
     EXPECT_THROW(Zinsjahr(unknown), Vek::EnumOutOfRangeException);
 }
-
-} // namespace Tests

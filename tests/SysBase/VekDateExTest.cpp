@@ -7,9 +7,6 @@
 #include <chrono>
 #include <limits>
 
-namespace Tests
-{
-
 using VekSysBase::DayOfWeek;
 using VekSysBase::VekDateEx;
 
@@ -80,14 +77,7 @@ TEST(VekDateEx, AddsAcrossTheEndsAndToDaysThatAreNotThere)
 {
     constexpr int max = std::numeric_limits<int>::max();
     constexpr int min = std::numeric_limits<int>::min();
-    struct Row
-    {
-        VekDateEx from;
-        int days;
-        int months;
-        VekDateEx to;
-    };
-    Row const rows[] = {
+    Rows<VekDateEx, int, int, VekDateEx> const rows = {
         { { 31, 12, 65535 }, 1, 0, { 1, 1, 0 } },
         { { 1, 1, 0 }, -1, 0, { 31, 12, 65535 } },
         { { 29, 2, 2024 }, max, 0, { 8, 9, 48930 } },
@@ -104,12 +94,12 @@ TEST(VekDateEx, AddsAcrossTheEndsAndToDaysThatAreNotThere)
         { { 31, 1, 2024 }, 0, min, { 31, 5, 23869 } },
         { { 0, 13, 2000 }, 0, 1, { 0, 2, 2001 } },
     };
-    for (Row const& row : rows)
+    for (auto const& [from, days, months, to] : rows)
     {
-        VekDateEx sum = row.from;
-        sum.AddDays(row.days);
-        sum.AddMonths(row.months);
-        EXPECT_EQ(sum, row.to) << testing::PrintToString(row.from);
+        VekDateEx sum = from;
+        sum.AddDays(days);
+        sum.AddMonths(months);
+        EXPECT_EQ(sum, to) << testing::PrintToString(from);
     }
     EXPECT_EQ(VekDateEx(255, 255, 2023).GetDayOfYear(), 7975);
     EXPECT_EQ(VekDateEx().GetDayOfYear(), -30);
@@ -159,25 +149,18 @@ TEST(VekDateEx, InvalidDatesHaveNoDistance)
 TEST(VekDateEx, BetweenBoundsInEitherOrder)
 {
     VekDateEx const days[] = { {}, { 1, 1, 2024 }, { 2, 1, 2024 }, { 3, 1, 2024 } };
-    struct Row
-    {
-        int date; // of the days above, as the bounds
-        int from;
-        int to;
-        bool inclusive;
-        bool open;
-    };
-    Row const rows[] = {
+    // A day and its bounds by their place above.
+    Rows<int, int, int, bool, bool> const rows = {
         { 2, 1, 3, true, true },   { 2, 3, 1, true, true },   { 1, 1, 3, true, false },
         { 3, 1, 3, true, false },  { 3, 2, 1, false, false }, { 1, 0, 3, true, true }, // open below
         { 3, 0, 3, true, false },  { 1, 1, 0, true, true },   // open above: the lower bound is in
         { 1, 2, 0, false, false }, { 1, 0, 0, false, false }, // open on both sides is below zero
     };
-    for (Row const& row : rows)
+    for (auto const& [date, from, to, inclusive, open] : rows)
     {
-        SCOPED_TRACE(testing::Message() << row.date << " between " << row.from << " and " << row.to);
-        EXPECT_EQ(days[row.date].IsDateBetween(days[row.from], days[row.to], true), row.inclusive);
-        EXPECT_EQ(days[row.date].IsDateBetween(days[row.from], days[row.to], false), row.open);
+        SCOPED_TRACE(testing::Message() << date << " between " << from << " and " << to);
+        EXPECT_EQ(days[date].IsDateBetween(days[from], days[to], true), inclusive);
+        EXPECT_EQ(days[date].IsDateBetween(days[from], days[to], false), open);
     }
 }
 
@@ -194,5 +177,3 @@ TEST(VekDateEx, EachQuarterConversionHasItsOwnAnswerToNone)
         EXPECT_EQ(VekDateEx::GetMonatsendeVonQuartal(quarter), isOne ? 3 * quarter : 12);
     }
 }
-
-} // namespace Tests

@@ -13,9 +13,6 @@
 #include <sstream>
 #include <unordered_set>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -108,5 +105,3 @@ TEST(VekDateExtras, IsADayOfDateTimeAndChrono)
 }
 
 } // namespace
-
-} // namespace Tests

@@ -16,9 +16,6 @@
 #include <sstream>
 #include <vector>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -122,15 +119,7 @@ TEST(ColorContrast, TheBetterOfBlackAndWhite)
 
 TEST(ColorText, BothFormsBothWays)
 {
-    struct Row
-    {
-        wchar_t const* text;
-        bool isRead;
-        RGB color;
-        std::size_t position;
-        char const* why;
-    };
-    Row const rows[] = {
+    Rows<wchar_t const*, bool, RGB, std::size_t, char const*> const rows = {
         { L"#12aBfF", true, { 0x12, 0xAB, 0xFF, 255 }, 7, "opaque" },
         { L"#0012ABFF", true, { 0x12, 0xAB, 0xFF, 0 }, 9, "alpha in front" },
         { L"", false, {}, 0, "nothing" },
@@ -141,14 +130,14 @@ TEST(ColorText, BothFormsBothWays)
         { L"#0012ABFF0", false, {}, 9, "too long" },
         { L"#12AB\uFF110", false, {}, 5, "a full-width digit" },
     };
-    for (Row const& row : rows)
+    for (auto const& [text, isRead, expected, end, why] : rows)
     {
-        SCOPED_TRACE(row.why);
+        SCOPED_TRACE(why);
         RGB color(7, 7, 7, 7);
         std::size_t position = 99;
-        EXPECT_EQ(TryParseColor(row.text, color, position), row.isRead);
-        EXPECT_EQ(position, row.position);
-        EXPECT_EQ(color, row.isRead ? row.color : RGB(7, 7, 7, 7));
+        EXPECT_EQ(TryParseColor(text, color, position), isRead);
+        EXPECT_EQ(position, end);
+        EXPECT_EQ(color, isRead ? expected : RGB(7, 7, 7, 7));
     }
     EXPECT_EQ(FormatColor(RGB(0x12, 0xAB, 0xFF, 255)), L"#12ABFF");
     EXPECT_EQ(FormatColor(BGRA(0x12, 0xAB, 0xFF, 0x0A)), L"#0A12ABFF");
@@ -161,5 +150,3 @@ TEST(ColorText, BothFormsBothWays)
 }
 
 } // namespace
-
-} // namespace Tests

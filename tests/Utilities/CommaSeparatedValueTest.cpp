@@ -67,16 +67,16 @@ TEST(CommaSeparatedValue, LinesAndTheirValues)
 {
     EXPECT_EQ(L"a;b\\;c;d\\\\e;;", Write({ L"a", L"b;c", L"d\\e", L"" }, L';'));
     // clang-format off
-    struct { wchar_t const* text; Values values; } const rows[] = {
+    Rows<wchar_t const*, Values> const rows = {
         { L"", {} }, { L";", { L"" } }, { L";x", { L"", L"x" } }, { L"a;b;", { L"a", L"b" } },
         { L"a;;b", { L"a", L"", L"b" } }, { L"\\a\\;\\\\", { L"a;\\" } },
         { L"0123456789abcdef\\;0123456789;z", { L"0123456789abcdef;0123456789", L"z" } },
     };
     // clang-format on
-    for (auto const& row : rows)
+    for (auto const& [text, values] : rows)
     {
-        SCOPED_TRACE(row.text);
-        EXPECT_EQ(row.values, Read(row.text, L';'));
+        SCOPED_TRACE(text);
+        EXPECT_EQ(values, Read(text, L';'));
     }
 }
 

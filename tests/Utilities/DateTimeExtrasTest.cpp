@@ -16,9 +16,6 @@
 #include <unordered_set>
 #include <vector>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -41,14 +38,8 @@ using Parser = bool (*)(std::wstring_view, DateTime&, DateTextFault&) noexcept;
 
 TEST(DateTimeText, ReadsBothNotations)
 {
-    struct Row
-    {
-        Parser parse;
-        wchar_t const* text;
-        DateTime value;
-    };
     DateTime const point = At(2024, 3, 5, 9, 5);
-    Row const rows[] = {
+    Rows<Parser, wchar_t const*, DateTime> const rows = {
         { TryParseIso8601, L"2024-03-05", At(2024, 3, 5) },
         { TryParseIso8601, L"2024-03-05T09:05:00,5", Later(point, 5'000'000) },
         { TryParseIso8601, L"+30828-09-14T02:48:05.4775807", DateTime::FromTicks(c_end - 1) },
@@ -56,12 +47,12 @@ TEST(DateTimeText, ReadsBothNotations)
         { TryParseGerman, L"05.03.2024 09:05:07", Later(point, 70'000'000) },
         { TryParseGerman, L"31.12.30827 23:59", At(30827, 12, 31, 23, 59) },
     };
-    for (Row const& row : rows)
+    for (auto const& [parse, text, expected] : rows)
     {
         DateTime value;
         DateTextFault fault{ DateTextError::TimeZone, 99 };
-        EXPECT_TRUE(row.parse(row.text, value, fault)) << row.text << " at " << fault.position;
-        EXPECT_EQ(value, row.value) << row.text;
+        EXPECT_TRUE(parse(text, value, fault)) << text << " at " << fault.position;
+        EXPECT_EQ(value, expected) << text;
         EXPECT_EQ(fault.error, DateTextError::None);
     }
 }
@@ -69,13 +60,8 @@ TEST(DateTimeText, ReadsBothNotations)
 TEST(DateTimeText, NamesTheFirstFault)
 {
     using Error = DateTextError;
-    struct Row
-    {
-        Parser parse;
-        Error error;
-        std::vector<std::wstring> texts; // '|' stands before the fault
-    };
-    Row const rows[] = {
+    // '|' stands before the fault.
+    Rows<Parser, Error, std::vector<std::wstring>> const rows = {
         { TryParseIso8601,
           Error::MissingUnit,
           { L"|", L"2024|", L"2024-03-0|", L"2024-03-05T|", L"2024-03-05T14:30:05.|" } },
@@ -100,15 +86,15 @@ TEST(DateTimeText, NamesTheFirstFault)
           Error::OutOfRange,
           { L"|30.02.2024", L"|32.03.2024", L"5.|13.2024", L"5.3.|1600", L"5.3.|30829" } },
     };
-    for (Row const& row : rows)
-        for (std::wstring text : row.texts)
+    for (auto const& [parse, error, texts] : rows)
+        for (std::wstring text : texts)
         {
             std::size_t const position = text.find(L'|');
             text.erase(position, 1);
             DateTime value = At(1999, 9, 9);
             DateTextFault fault;
-            EXPECT_FALSE(row.parse(text, value, fault)) << text;
-            EXPECT_EQ(static_cast<int>(fault.error), static_cast<int>(row.error)) << text;
+            EXPECT_FALSE(parse(text, value, fault)) << text;
+            EXPECT_EQ(static_cast<int>(fault.error), static_cast<int>(error)) << text;
             EXPECT_EQ(fault.position, position) << text;
             EXPECT_EQ(value, At(1999, 9, 9));
         }
@@ -142,12 +128,7 @@ TEST(DateTimeText, WhatIsWrittenIsReadBack)
 TEST(DurationText, ShowsBothPartsAndTheStart)
 {
     using D = Duration;
-    struct Row
-    {
-        D value;
-        wchar_t const* text;
-    };
-    Row const rows[] = {
+    Rows<D, wchar_t const*> const rows = {
         { D(), L"PT0S" },
         { D::CreateRelative(2, D::Years), L"P24M" },
         { D::CreateRelative(1, D::Months) * -1.5_dec, L"P-1MT-1296000.0S" },
@@ -155,8 +136,8 @@ TEST(DurationText, ShowsBothPartsAndTheStart)
         { D({}, Decimal(0) / 0, 1), L"P1MTNaNS" },
         { D({}, Decimal(-1) / 0, 0), L"PT-InfinityS" },
     };
-    for (Row const& row : rows)
-        EXPECT_EQ(FormatIso8601(row.value), row.text);
+    for (auto const& [value, text] : rows)
+        EXPECT_EQ(FormatIso8601(value), text);
 }
 
 TEST(DateTimeExtras, StreamsPadTheText)
@@ -196,5 +177,3 @@ TEST(DateTimeExtras, IsALocalTimeOfChrono)
 }
 
 } // namespace
-
-} // namespace Tests

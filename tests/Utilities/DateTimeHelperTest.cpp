@@ -8,9 +8,6 @@
 #include <cstdlib>
 #include <string>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -49,15 +46,7 @@ std::string ToText(std::tm const& fields)
 TEST(DateTimeHelper, AddsThroughTheLocalTimeOfVienna)
 {
     ASSERT_TRUE(s_isZoneCleared);
-    struct Row
-    {
-        std::tm from;
-        Decimal seconds;
-        int months;
-        char const* to;
-        char const* why;
-    };
-    Row const rows[] = {
+    Rows<std::tm, Decimal, int, char const*, char const*> const rows = {
         { At(2024, 1, 31, 12, 0, 0, 0), 0, 1, "2024-03-02 12:00:00", "the day is not cut, leap year" },
         { At(2024, 1, 31, 12, 0, 0, 0), 0, 6, "2024-07-31 13:00:00 summer", "winter stays in the fields" },
         { At(2024, 7, 31, 12, 0, 0, 0), 0, 0, "2024-07-31 13:00:00 summer", "the flag is an input" },
@@ -70,10 +59,10 @@ TEST(DateTimeHelper, AddsThroughTheLocalTimeOfVienna)
         { At(2024, 1, 1, 0, 0, 0, 0), Decimal(1) / 0, 1, "2024-02-01 00:00:00", "an Infinity moves nothing" },
         { At(2024, 14, -1, 25, 0, 0, 0), 0, 0, "2025-01-31 01:00:00", "fields are normalised" },
     };
-    for (Row const& row : rows)
+    for (auto const& [from, seconds, months, to, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        EXPECT_EQ(ToText(DateTimeHelper::Add(row.from, Duration({}, row.seconds, row.months))), row.to);
+        SCOPED_TRACE(why);
+        EXPECT_EQ(ToText(DateTimeHelper::Add(from, Duration({}, seconds, months))), to);
     }
 }
 
@@ -116,5 +105,3 @@ TEST(DateTimeHelper, ComparesSixFieldsAsTheyStand)
 }
 
 } // namespace
-
-} // namespace Tests

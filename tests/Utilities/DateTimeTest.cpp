@@ -14,9 +14,6 @@
 #include <ctime>
 #include <vector>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -145,15 +142,7 @@ TEST(DateTime, TimeTIsTakenAsItIs)
 
 TEST(DateTime, SumsTakeTheExactPartFirst)
 {
-    struct Row
-    {
-        DateTime from;
-        int months;
-        Decimal seconds;
-        DateTime to;
-        char const* why;
-    };
-    Row const rows[] = {
+    Rows<DateTime, int, Decimal, DateTime, char const*> const rows = {
         { At(2024, 1, 31), 1, 86'400, At(2024, 3, 1), "1 February and one month" },
         { At(2024, 1, 1), 0, 0.00000005_dec, DateTime::FromTicks(At(2024, 1, 1).GetTicks() + 1), "half a tick up" },
         { At(2024, 1, 1), 0, -0.00000005_dec, DateTime::FromTicks(At(2024, 1, 1).GetTicks() - 1), "half a tick down" },
@@ -163,12 +152,12 @@ TEST(DateTime, SumsTakeTheExactPartFirst)
         { At(2024, 1, 1), 1, Decimal(0) / 0, At(2024, 2, 1), "a NaN moves nothing" },
         { At(2024, 1, 1), 0, 1e40_dec, At(2024, 1, 1), "nor what is no integer" },
     };
-    for (Row const& row : rows)
+    for (auto const& [from, months, seconds, to, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        Duration const duration({}, row.seconds, row.months);
-        EXPECT_EQ(row.from + duration, row.to);
-        EXPECT_EQ(row.from - Duration({}, -row.seconds, -row.months), row.to);
+        SCOPED_TRACE(why);
+        Duration const duration({}, seconds, months);
+        EXPECT_EQ(from + duration, to);
+        EXPECT_EQ(from - Duration({}, -seconds, -months), to);
     }
 }
 
@@ -196,15 +185,7 @@ TEST(DateTime, TryAddRefusesWhatTheSumWouldHide)
     DateTime const last = DateTime::FromTicks(c_end - 1);
     DateTime const wrapped = first - ToSeconds(1);
     Decimal const all(static_cast<long long>(c_end - 1), -7);
-    struct Row
-    {
-        DateTime from;
-        Decimal seconds;
-        int months;
-        bool isAdded;
-        char const* why;
-    };
-    Row const rows[] = {
+    Rows<DateTime, Decimal, int, bool, char const*> const rows = {
         { first, all, 0, true, "from the first tick to the last" },
         { first, all + 0.0000001_dec, 0, false, "one tick too far" },
         { last, -all - 0.0000001_dec, 0, false, "one tick too far back" },
@@ -219,27 +200,20 @@ TEST(DateTime, TryAddRefusesWhatTheSumWouldHide)
         { last, -86'400 * 300, 1, true, "back into the last whole year" },
         { last, 0, 1, false, "a month within the year that is cut" },
     };
-    for (Row const& row : rows)
+    for (auto const& [from, seconds, months, isAdded, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        Duration const duration({}, row.seconds, row.months);
+        SCOPED_TRACE(why);
+        Duration const duration({}, seconds, months);
         DateTime sum = At(2024, 1, 1);
-        EXPECT_EQ(row.from.TryAdd(duration, sum), row.isAdded);
-        EXPECT_EQ(sum, row.isAdded ? row.from + duration : At(2024, 1, 1));
+        EXPECT_EQ(from.TryAdd(duration, sum), isAdded);
+        EXPECT_EQ(sum, isAdded ? from + duration : At(2024, 1, 1));
     }
 }
 
 TEST(DateTime, ComparesWithAndWithoutTheYear)
 {
-    struct Row
-    {
-        DateTime a;
-        DateTime b;
-        int exact;
-        int ignoringYear;
-    };
     DateTime const leapDay = At(2024, 2, 29, 10);
-    Row const rows[] = {
+    Rows<DateTime, DateTime, int, int> const rows = {
         { At(2023, 3, 1), At(2024, 2, 28), -1, 1 },
         { leapDay, At(1999, 2, 28, 23, 59, 59), 1, 1 },
         { leapDay, At(2031, 3, 1), -1, -1 },
@@ -248,37 +222,31 @@ TEST(DateTime, ComparesWithAndWithoutTheYear)
         { leapDay, leapDay + ToSeconds(0.001_dec), -1, -1 },
         { DateTime::FromTicks(c_end - 1), At(2024, 9, 14), 1, 1 },
     };
-    for (Row const& row : rows)
+    for (auto const& [a, b, exact, ignoringYear] : rows)
     {
-        EXPECT_EQ(row.a.CompareTo(row.b, DateTime::Exact), row.exact);
-        EXPECT_EQ(row.b.CompareTo(row.a, DateTime::Exact), -row.exact);
-        EXPECT_EQ(row.a.CompareTo(row.b, DateTime::IgnoreYear), row.ignoringYear);
-        EXPECT_EQ(row.b.CompareTo(row.a, DateTime::IgnoreYear), -row.ignoringYear);
+        EXPECT_EQ(a.CompareTo(b, DateTime::Exact), exact);
+        EXPECT_EQ(b.CompareTo(a, DateTime::Exact), -exact);
+        EXPECT_EQ(a.CompareTo(b, DateTime::IgnoreYear), ignoringYear);
+        EXPECT_EQ(b.CompareTo(a, DateTime::IgnoreYear), -ignoringYear);
     }
     EXPECT_THROW(leapDay.CompareTo(leapDay, static_cast<DateTime::ComparisonOptions>(2)), Vek::EnumOutOfRangeException);
 }
 
 TEST(DateTime, WholeMonthsOfSecondsCompareDaysOnly)
 {
-    struct Row
-    {
-        DateTime from;
-        DateTime to;
-        int months;
-    };
-    Row const rows[] = {
+    Rows<DateTime, DateTime, int> const rows = {
         { At(2024, 1, 31), At(2024, 2, 29), 0 },        { At(2024, 1, 31), At(2024, 3, 31), 2 },
         { At(2024, 1, 15, 10), At(2024, 2, 15, 9), 1 }, { At(2024, 1, 15), At(2024, 1, 14), 0 },
         { At(2024, 3, 31), At(2024, 2, 29), -1 },       { At(2024, 3, 15), At(2024, 2, 16), 0 },
         { At(2024, 3, 15), At(2023, 3, 15), -12 },      { At(1601, 1, 1), At(30827, 12, 31), 350'723 },
     };
-    for (Row const& row : rows)
+    for (auto const& [from, to, months] : rows)
     {
-        Duration const between = row.to - row.from;
-        EXPECT_EQ(row.from.GetMonthsForNextSeconds(between.GetExactComponent(Duration::Seconds)), row.months);
-        EXPECT_EQ(between.GetReasonableMonths(), row.months);
-        EXPECT_EQ(row.from + between, row.to);
-        EXPECT_EQ(*between.GetStart(), row.from);
+        Duration const between = to - from;
+        EXPECT_EQ(from.GetMonthsForNextSeconds(between.GetExactComponent(Duration::Seconds)), months);
+        EXPECT_EQ(between.GetReasonableMonths(), months);
+        EXPECT_EQ(from + between, to);
+        EXPECT_EQ(*between.GetStart(), from);
     }
 }
 
@@ -295,5 +263,3 @@ TEST(DateTime, NowIsOnTheSystemsLocalClock)
 }
 
 } // namespace
-
-} // namespace Tests

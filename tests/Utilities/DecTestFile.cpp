@@ -6,9 +6,6 @@
 #include <iterator>
 #include <stdexcept>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -99,5 +96,3 @@ std::vector<DecTestCase> ReadDecTestFile(std::filesystem::path const& path)
     }
     return cases;
 }
-
-} // namespace Tests

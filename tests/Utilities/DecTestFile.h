@@ -9,9 +9,6 @@ extern "C"
 #include <decContext.h>
 }
 
-namespace Tests
-{
-
 /// One line of a file of the General Decimal Arithmetic test cases, with the rounding that holds there.
 struct DecTestCase
 {
@@ -24,5 +21,3 @@ struct DecTestCase
 
 /// The cases in the order of the file. Throws std::runtime_error for a file or a rounding it does not know.
 std::vector<DecTestCase> ReadDecTestFile(std::filesystem::path const& path);
-
-} // namespace Tests

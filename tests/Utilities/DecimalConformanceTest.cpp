@@ -16,9 +16,6 @@
 #include "DecTestFile.h"
 #include "PlainDecNumber.h"
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -240,5 +237,3 @@ TEST(DecimalConformance, PublishedCases)
     EXPECT_GE(quad, 6081);
     EXPECT_GE(other, 14227);
 }
-
-} // namespace Tests

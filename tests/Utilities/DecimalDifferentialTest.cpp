@@ -9,9 +9,6 @@
 
 #include "RandomDecimal.h"
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -137,5 +134,3 @@ TEST(DecimalDifferential, FromString)
         ASSERT_TRUE(Plain::HasSameBits(result, Plain::Scan(text))) << text << " gives " << Plain::Print(result);
     }
 }
-
-} // namespace Tests

@@ -10,9 +10,6 @@
 
 #include "RandomDecimal.h"
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -144,10 +141,7 @@ TEST(DecimalDouble, ToDoubleFollowsItsSteps)
 TEST(DecimalDouble, SpecialValues)
 {
     double const infinity = std::numeric_limits<double>::infinity();
-    // clang-format off
-    struct Row { double value; char const* text; double back; char const* why; };
-    // clang-format on
-    Row const rows[] = {
+    Rows<double, char const*, double, char const*> const rows = {
         { 0.1, "0.1", 0.1, "what was meant" },
         { 100.0, "1E+2", 100.0, "nor before the point" },
         { 0x1.0000000000001p52, "4503599627370496", 0x1p52, "2^52 + 1 loses its last bit" },
@@ -156,15 +150,13 @@ TEST(DecimalDouble, SpecialValues)
         { infinity, "Infinity", infinity, "stays" },
         { -infinity, "-Infinity", infinity, "comes back positive" },
     };
-    for (Row const& row : rows)
+    for (auto const& [value, text, back, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        EXPECT_EQ(Plain::Print(Decimal(row.value)), row.text);
-        EXPECT_TRUE(IsSame(Decimal(row.value).ToDouble(), row.back));
+        SCOPED_TRACE(why);
+        EXPECT_EQ(Plain::Print(Decimal(value)), text);
+        EXPECT_TRUE(IsSame(Decimal(value).ToDouble(), back));
     }
     EXPECT_EQ(Plain::Print(Decimal(-std::numeric_limits<double>::quiet_NaN())), "NaN");
     EXPECT_EQ(std::bit_cast<std::uint64_t>(Plain::Scan("-NaN5").ToDouble()), 0x7FF8000000000000U);
     EXPECT_EQ(Plain::Print(Decimal(1.0 / 3.0)), "0.333333333333333");
 }
-
-} // namespace Tests

@@ -18,9 +18,6 @@
 
 #include "RandomDecimal.h"
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -33,24 +30,23 @@ std::wstring ToText(Decimal const& value)
 
 TEST(DecimalExtras, EveryValueIsInOneClass)
 {
-    // clang-format off
-    struct Row { wchar_t const* text; bool isNaN, isInfinite; };
-    for (Row const& row : { Row{ L"0", false, false }, Row{ L"-1e6144", false, false }, Row{ L"-inf", false, true },
-                            Row{ L"nan7", true, false }, Row{ L"-snan", true, false } })
+    Rows<wchar_t const*, bool, bool> const rows = {
+        { L"0", false, false },   { L"-1e6144", false, false }, { L"-inf", false, true },
+        { L"nan7", true, false }, { L"-snan", true, false },
+    };
+    for (auto const& [text, isNaN, isInfinite] : rows)
     {
-        // clang-format on
-        Decimal const value = Decimal::FromString(row.text, L'.');
-        EXPECT_EQ(IsNaN(value), row.isNaN);
-        EXPECT_EQ(IsInfinite(value), row.isInfinite);
-        EXPECT_EQ(IsFinite(value), !row.isNaN && !row.isInfinite);
+        Decimal const value = Decimal::FromString(text, L'.');
+        EXPECT_EQ(IsNaN(value), isNaN);
+        EXPECT_EQ(IsInfinite(value), isInfinite);
+        EXPECT_EQ(IsFinite(value), !isNaN && !isInfinite);
     }
 }
 
 TEST(DecimalExtras, TryFromStringNamesTheFirstBadUnit)
 {
     // clang-format off
-    struct Row { wchar_t const* text; bool isRead; std::size_t position; char const* why; };
-    Row const rows[] = {
+    Rows<wchar_t const*, bool, std::size_t, char const*> const rows = {
         { L"-12,50", true, 6, "all of it" }, { L"nan", true, 3, "a NaN that was meant" },
         { L"", false, 0, "nothing there" }, { L"12.50", false, 2, "another separator" },
         { L"1,2,3", false, 3, "two of them" }, { L" 1", false, 0, "a blank" },
@@ -58,14 +54,14 @@ TEST(DecimalExtras, TryFromStringNamesTheFirstBadUnit)
         { L"infinite", false, 3, "inf and more" }, { L"-", false, 1, "a sign alone" },
     };
     // clang-format on
-    for (Row const& row : rows)
+    for (auto const& [text, isRead, end, why] : rows)
     {
-        SCOPED_TRACE(row.why);
+        SCOPED_TRACE(why);
         Decimal value = 7;
         std::size_t position = 99;
-        EXPECT_EQ(TryFromString(row.text, L',', value, position), row.isRead);
-        EXPECT_EQ(position, row.position);
-        EXPECT_EQ(ToText(value), row.isRead ? ToText(Decimal::FromString(row.text, L',')) : L"7");
+        EXPECT_EQ(TryFromString(text, L',', value, position), isRead);
+        EXPECT_EQ(position, end);
+        EXPECT_EQ(ToText(value), isRead ? ToText(Decimal::FromString(text, L',')) : L"7");
     }
     Decimal value;
     std::size_t position = 0;
@@ -118,18 +114,17 @@ TEST(DecimalExtras, EqualNumbersHashAlike)
 TEST(DecimalExtras, LiteralsAreTheirDigits)
 {
     // clang-format off
-    struct Row { Decimal value; wchar_t const* text; };
-    Row const rows[] = {
+    Rows<Decimal, wchar_t const*> const rows = {
         { 12.50_dec, L"12.50" }, { 1'234'567.5_dec, L"1234567.5" }, { 0_dec, L"0" }, { .5_dec, L"0.5" },
         { 12e3_dec, L"12e3" }, { 1.5E-3_dec, L"0.0015" }, { 1e6144_dec, L"1e6144" }, { 1e-6176_dec, L"1e-6176" },
         { 1234567890123456789.012345678901234_dec, L"1234567890123456789.012345678901234" },
         { 9'999'999'999'999'999'999'999'999'999'999'999_dec, L"9999999999999999999999999999999999" },
     };
     // clang-format on
-    for (Row const& row : rows)
+    for (auto const& [value, text] : rows)
     {
-        Decimal const expected = Decimal::FromString(row.text, L'.');
-        EXPECT_EQ(std::memcmp(&row.value, &expected, sizeof(expected)), 0) << ToText(row.value).c_str();
+        Decimal const expected = Decimal::FromString(text, L'.');
+        EXPECT_EQ(std::memcmp(&value, &expected, sizeof(expected)), 0) << ToText(value).c_str();
     }
     for (char const* text : { "0x1F", "0b1", "017", "1e6145", "1e-6177", "12345678901234567890123456789012345" })
         EXPECT_FALSE(DecimalLiteral::Read(text).isValid) << text;
@@ -159,8 +154,7 @@ TEST(DecimalExtras, AmountsAreReadStrictly)
     std::wstring const longest(34, L'9');
     // clang-format off
     using enum AmountError;
-    struct Row { std::wstring text; AmountError error; std::size_t position; };
-    Row const rows[] = {
+    Rows<std::wstring, AmountError, std::size_t> const rows = {
         { L"", MissingDigit, 0 }, { L"-", MissingDigit, 1 }, { L"12,", MissingDigit, 3 },
         { L"abc", WrongUnit, 0 }, { L",50", WrongUnit, 0 }, { L"--1", WrongUnit, 1 }, { L"1,2,3", WrongUnit, 3 },
         { L"12,50 ", WrongUnit, 5 }, { L"1,234.5", WrongUnit, 5 }, { L"1 234,50", WrongUnit, 1 },
@@ -170,14 +164,14 @@ TEST(DecimalExtras, AmountsAreReadStrictly)
         { L"00" + longest + L",1", TooManyDigits, 37 }, { longest + L"9,x", TooManyDigits, 34 },
     };
     // clang-format on
-    for (Row const& row : rows)
+    for (auto const& [text, error, position] : rows)
     {
-        SCOPED_TRACE(std::string(row.text.begin(), row.text.end()).c_str());
+        SCOPED_TRACE(std::string(text.begin(), text.end()).c_str());
         Decimal amount = 7;
         AmountFault fault;
-        EXPECT_FALSE(TryParseAmount(row.text, amount, fault));
-        EXPECT_EQ(fault.error, row.error);
-        EXPECT_EQ(fault.position, row.position);
+        EXPECT_FALSE(TryParseAmount(text, amount, fault));
+        EXPECT_EQ(fault.error, error);
+        EXPECT_EQ(fault.position, position);
         EXPECT_TRUE(amount == 7);
     }
 }
@@ -200,5 +194,3 @@ TEST(DecimalExtras, WrittenAmountsAreReadBack)
 }
 
 } // namespace
-
-} // namespace Tests

@@ -8,9 +8,6 @@
 
 #include "RandomDecimal.h"
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -124,5 +121,3 @@ TEST(Decimal, EveryPatternIsANumber)
         ASSERT_EQ(std::bit_cast<std::uint64_t>(a.ToDouble()), std::bit_cast<std::uint64_t>(canonical.ToDouble()));
     }
 }
-
-} // namespace Tests

@@ -11,9 +11,6 @@
 #include "RandomDecimal.h"
 #include "UnitText.h"
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -53,12 +50,7 @@ std::wstring WritePlainly(Decimal const& value)
 TEST(DecimalText, FromString)
 {
     using namespace std::string_literals;
-    struct Row
-    {
-        std::wstring text;
-        char const *value, *why;
-    };
-    Row const rows[] = {
+    Rows<std::wstring, char const*, char const*> const rows = {
         { L"1,5", "1.5", "the separator" },
         { L"1.5", "NaN", "a full stop is another character" },
         { L"+,50", "0.50", "nothing before it" },
@@ -72,10 +64,10 @@ TEST(DecimalText, FromString)
         { L"-SNaN012", "-sNaN12", "payload" },
         { L"nan" + std::wstring(34, L'7'), "NaN", "a payload too long" },
     };
-    for (Row const& row : rows)
+    for (auto const& [text, value, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        EXPECT_EQ(Plain::Print(Decimal::FromString(row.text, L',')), row.value);
+        SCOPED_TRACE(why);
+        EXPECT_EQ(Plain::Print(Decimal::FromString(text, L',')), value);
     }
     EXPECT_EQ(Plain::Print(Decimal::FromString(MakeText({ '1', 0xDE00, '5' }), L'\xDE00')), "1.5");
     EXPECT_THROW(Decimal::FromString(L"1", CodePoint(L'\xD83D', L'\xDE00')), Vek::InvalidStateException);
@@ -95,23 +87,20 @@ TEST(DecimalText, FromStringOfAMillionDigits)
 TEST(DecimalText, ToString)
 {
     CodePoint const pair(L'\xD83D', L'\xDE00');
-    // clang-format off
-    struct Row { char const* value; CodePoint separator; Nullable<CodePoint> grouping; std::wstring text; };
-    // clang-format on
-    Row const rows[] = {
+    Rows<char const*, CodePoint, Nullable<CodePoint>, std::wstring> const rows = {
         { "-0.00", L',', {}, L"0,00" },
         { "-Infinity", L',', CodePoint(L'.'), L"-Infinity" },
         { "1234.5", pair, CodePoint(L','), L"1,234" + pair.ToString() + L"5" },
         { "1E+6", L'.', pair, L"1" + pair.ToString() + L"000" + pair.ToString() + L"000" },
         { "1234.5", L',', CodePoint(L','), L"1,234,5" }, // the same for both
     };
-    for (Row const& row : rows)
+    for (auto const& [value, separator, grouping, text] : rows)
     {
-        SCOPED_TRACE(row.value);
-        EXPECT_EQ(Plain::Scan(row.value).ToString(row.separator, row.grouping), row.text);
+        SCOPED_TRACE(value);
+        EXPECT_EQ(Plain::Scan(value).ToString(separator, grouping), text);
         std::wstring target = L"x";
-        Plain::Scan(row.value).AppendToString(target, row.separator, row.grouping);
-        EXPECT_EQ(target, L"x" + row.text);
+        Plain::Scan(value).AppendToString(target, separator, grouping);
+        EXPECT_EQ(target, L"x" + text);
     }
 }
 
@@ -134,5 +123,3 @@ TEST(DecimalText, ToStringAndBack)
         ASSERT_EQ(value.ToString(L',', CodePoint(L'.')), WritePlainly(value));
     }
 }
-
-} // namespace Tests

@@ -4,18 +4,12 @@
 
 #include <limits>
 
-namespace Tests
-{
-
 using Vek::Framework::Utilities::Double;
 
 TEST(Double, Comparisons)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
-    // clang-format off
-    struct Row { double a, b; char const *answers /* the comparisons that are true */, *why; };
-    // clang-format on
-    Row const rows[] = {
+    Rows<double, double, char const*, char const*> const rows = {
         { 1.0, 1.0000009, "= >= <=", "within the tolerance" },
         { 1.000001, 1.0, "= >= <=", "a difference that comes out just below it" },
         { 1.000002, 1.0, "> >=", "greater" },
@@ -26,16 +20,16 @@ TEST(Double, Comparisons)
         { infinity, -infinity, "> >=", "far apart" },
         { std::numeric_limits<double>::quiet_NaN(), 1.0, "< <=", "the contrary of a comparison" },
     };
-    for (Row const& row : rows)
+    for (auto const& [a, b, expected, why] : rows)
     {
-        SCOPED_TRACE(row.why);
+        SCOPED_TRACE(why);
         std::string answers;
-        answers += Double::Equals(row.a, row.b) ? "= " : "";
-        answers += Double::IsGreater(row.a, row.b) ? "> " : "";
-        answers += Double::IsGreaterOrEqual(row.a, row.b) ? ">= " : "";
-        answers += Double::IsSmaller(row.a, row.b) ? "< " : "";
-        answers += Double::IsSmallerOrEqual(row.a, row.b) ? "<= " : "";
-        EXPECT_EQ(answers, std::string(row.answers) + ' ');
+        answers += Double::Equals(a, b) ? "= " : "";
+        answers += Double::IsGreater(a, b) ? "> " : "";
+        answers += Double::IsGreaterOrEqual(a, b) ? ">= " : "";
+        answers += Double::IsSmaller(a, b) ? "< " : "";
+        answers += Double::IsSmallerOrEqual(a, b) ? "<= " : "";
+        EXPECT_EQ(answers, std::string(expected) + ' ');
     }
     EXPECT_TRUE(Double::IsZero(-0.0) && Double::IsZero(-9.99e-7) && !Double::IsZero(-1e-6));
     EXPECT_TRUE(Double::IsInfinite(-infinity) && !Double::IsInfinite(std::numeric_limits<double>::max()));
@@ -45,8 +39,7 @@ TEST(Double, Comparisons)
 TEST(Double, GetHashValue)
 {
     // clang-format off
-    struct Row { double value; unsigned long long hash; char const* why; };
-    Row const rows[] = {
+    Rows<double, unsigned long long, char const*> const rows = {
         { 0.00005, 1, "half a ten-thousandth, rounded away from zero" }, { 0.00004, 0, "less" },
         { -0.0001, 18446744073709551615U, "negative ones wrap" },
         { 922337203685477.0, 9223372036854770688U, "below 2^63" },
@@ -55,11 +48,9 @@ TEST(Double, GetHashValue)
         { -1e16, 9223372036854775808U, "no longer a signed one" },
     };
     // clang-format on
-    for (Row const& row : rows)
+    for (auto const& [value, hash, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        EXPECT_EQ(Double::GetHashValue(row.value), row.hash);
+        SCOPED_TRACE(why);
+        EXPECT_EQ(Double::GetHashValue(value), hash);
     }
 }
-
-} // namespace Tests

@@ -12,9 +12,6 @@
 #include <cmath>
 #include <random>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -39,18 +36,13 @@ DateTime At(short year, unsigned char month, unsigned char day)
 TEST(Duration, PartsAreKeptApart)
 {
     using D = Duration;
-    struct Row
-    {
-        Duration value;
-        wchar_t const* parts;
-    };
     D const month = D::CreateRelative(1, D::Months);
     D taken = D::Zero();
     taken.Substract(45, D::Days);
     D most = D::Zero();
     most.Substract(1e30_dec, D::Months); // more months than an int holds
     D const extreme = D::CreateRelative(INT_MIN, D::Months);
-    Row const rows[] = {
+    Rows<Duration, wchar_t const*> const rows = {
         { D::CreateRelative(2, D::Years), L"24 0" },
         { D::CreateRelative(1, D::Hours), L"0 3600" },
         { D::CreateRelative(1.5_dec, D::Weeks), L"0 907200.0" },
@@ -69,8 +61,8 @@ TEST(Duration, PartsAreKeptApart)
         { extreme - month, L"2147483647 0" },
         { D::CreateRelative(INT_MAX, D::Months) * 3, L"2147483645 0" },
     };
-    for (Row const& row : rows)
-        EXPECT_EQ(ToText(row.value), row.parts);
+    for (auto const& [value, parts] : rows)
+        EXPECT_EQ(ToText(value), parts);
 }
 
 TEST(Duration, MeasuresByTheCalendarFromAStart)
@@ -168,5 +160,3 @@ TEST(Duration, HoldsWhatDurationsPromise)
 }
 
 } // namespace
-
-} // namespace Tests

@@ -115,12 +115,9 @@ TEST(FileHelper, CopiesAndDeletesFiles)
 
 TEST(FileHelper, ComparesAsText)
 {
-    // clang-format off
-    struct Row { std::string first, second; bool isEqual; char const* why; };
-    // clang-format on
     std::string const block(65535, 'x'); // a file is read in blocks of 65,536 bytes
     std::string const end("\x1A");
-    Row const rows[] = {
+    Rows<std::string, std::string, bool, char const*> const rows = {
         { "", "", true, "both empty" },
         { "", "a", false, "one empty" },
         { "a\r\nb\r\n", "a\nb\n", true, "line ends do not count" },
@@ -142,13 +139,13 @@ TEST(FileHelper, ComparesAsText)
         { "\r\n" + block + block, "\n" + block + block, true, "blocks that are not parallel" },
     };
     TemporaryFolder const folder;
-    for (Row const& row : rows)
+    for (auto const& [bytes, others, isEqual, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        std::wstring const first = folder.Write("first", row.first);
-        std::wstring const second = folder.Write("second", row.second);
-        EXPECT_EQ(FileHelper::HasEqualContent(first, second), row.isEqual);
-        EXPECT_EQ(FileHelper::HasEqualContent(second, first), row.isEqual);
+        SCOPED_TRACE(why);
+        std::wstring const first = folder.Write("first", bytes);
+        std::wstring const second = folder.Write("second", others);
+        EXPECT_EQ(FileHelper::HasEqualContent(first, second), isEqual);
+        EXPECT_EQ(FileHelper::HasEqualContent(second, first), isEqual);
     }
 }
 
@@ -195,12 +192,11 @@ TEST(FileHelper, WorksBelowLongPaths)
 TEST(FileHelper, TakesTheNameAfterTheLastBackslash)
 {
     // clang-format off
-    struct Row { wchar_t const *path, *name; };
-    Row const rows[] = {
+    Rows<wchar_t const*, wchar_t const*> const rows = {
         { L"C:\\a\\b.txt", L"b.txt" }, { L"C:/a/b.txt", L"C:/a/b.txt" }, { L"C:\\a\\", L"C:\\a\\" },
         { L"a\\b/c", L"b/c" }, { L"\\x", L"x" }, { L"", L"" },
     };
     // clang-format on
-    for (Row const& row : rows)
-        EXPECT_EQ(FileHelper::GetFilename(row.path), row.name);
+    for (auto const& [path, name] : rows)
+        EXPECT_EQ(FileHelper::GetFilename(path), name);
 }

@@ -15,9 +15,6 @@
 #include <utility>
 #include <vector>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -169,5 +166,3 @@ TEST(StackLayoutHelper, EachRectangleIsBelowTheOneBefore)
 }
 
 } // namespace
-
-} // namespace Tests

@@ -11,9 +11,6 @@
 #include <set>
 #include <vector>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -43,28 +40,21 @@ void ExpectSame(IntRange const& range, std::set<int> const& expected)
 // Widths and spans are chosen so that leaves fill, split, and are swallowed whole, in part and across their borders.
 TEST(IntRange, AgreesWithASet)
 {
-    struct Row
-    {
-        int additions;
-        int span;
-        int width;
-        int wideEvery;
-    };
-    Row const rows[] = {
+    Rows<int, int, int, int> const rows = {
         { 3000, 10000, 1, 4000 }, // scattered values, full leaves
         { 4000, 20000, 3, 500 },  // short ranges, and some over several leaves
         { 300, 200, 5, 50 },      // soon one range
     };
-    for (Row const& row : rows)
+    for (auto const& [additions, span, usualWidth, wideEvery] : rows)
     {
-        SCOPED_TRACE(row.additions);
-        std::mt19937 random(static_cast<unsigned int>(row.span));
+        SCOPED_TRACE(additions);
+        std::mt19937 random(static_cast<unsigned int>(span));
         IntRange range;
         std::set<int> expected;
-        for (int i = 0; i < row.additions; ++i)
+        for (int i = 0; i < additions; ++i)
         {
-            int const from = static_cast<int>(random() % static_cast<unsigned int>(row.span)) - row.span / 2;
-            int const width = i % row.wideEvery == row.wideEvery - 1 ? row.span / 4 : row.width;
+            int const from = static_cast<int>(random() % static_cast<unsigned int>(span)) - span / 2;
+            int const width = i % wideEvery == wideEvery - 1 ? span / 4 : usualWidth;
             int const to = from + static_cast<int>(random() % static_cast<unsigned int>(width));
             range.AddRange(from, to);
             for (int value = from; value <= to; ++value)
@@ -73,7 +63,7 @@ TEST(IntRange, AgreesWithASet)
                 ExpectSame(range, expected);
             ASSERT_FALSE(testing::Test::HasFailure()) << i;
         }
-        for (int value = -row.span; value < row.span; ++value)
+        for (int value = -span; value < span; ++value)
             ASSERT_EQ(range.Contains(value), expected.count(value) != 0) << value;
     }
 }
@@ -111,15 +101,7 @@ TEST(IntRange, ReachesTheEndsOfInt)
 
 TEST(IntRangeText, ReadsWhatPeopleWriteAndWritesItBack)
 {
-    struct Row
-    {
-        std::wstring text;
-        wchar_t const* written; // or nothing
-        IntRangeError error;
-        std::size_t position;
-        char const* why;
-    };
-    Row const rows[] = {
+    Rows<std::wstring, wchar_t const*, IntRangeError, std::size_t, char const*> const rows = {
         { L"1-3, 7", L"1-3, 7", IntRangeError::None, 0, "the form written" },
         { L" 7 ;3\t-\u00A04,1 \x2013 2", L"1-4, 7", IntRangeError::None, 0, "blanks, semicolon, en dash, any order" },
         { L"-3--1, -7", L"-7, -3--1", IntRangeError::None, 0, "negative numbers" },
@@ -136,18 +118,16 @@ TEST(IntRangeText, ReadsWhatPeopleWriteAndWritesItBack)
         { L"-99999999999999999999999", nullptr, IntRangeError::TooLarge, 0, "far too small" },
         { L"1-2, 7 - 3", nullptr, IntRangeError::Reversed, 9, "backwards" },
     };
-    for (Row const& row : rows)
+    for (auto const& [text, written, error, position, why] : rows)
     {
-        SCOPED_TRACE(row.why);
+        SCOPED_TRACE(why);
         IntRange range(99, 99);
         IntRangeFault fault{ IntRangeError::TooLarge, 77 };
-        EXPECT_EQ(TryParseRange(row.text, range, fault), row.written != nullptr);
-        EXPECT_EQ(fault.error, row.error);
-        EXPECT_EQ(fault.position, row.position);
-        EXPECT_EQ(FormatRange(range), row.written != nullptr ? row.written : L"99");
+        EXPECT_EQ(TryParseRange(text, range, fault), written != nullptr);
+        EXPECT_EQ(fault.error, error);
+        EXPECT_EQ(fault.position, position);
+        EXPECT_EQ(FormatRange(range), written != nullptr ? written : L"99");
     }
 }
 
 } // namespace
-
-} // namespace Tests

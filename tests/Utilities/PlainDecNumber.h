@@ -14,7 +14,7 @@ extern "C"
 }
 
 /// The operations of Decimal written down with decNumber alone: decode, operate, encode.
-namespace Tests::Plain
+namespace Plain
 {
 
 using Vek::Framework::Utilities::Decimal;
@@ -116,4 +116,4 @@ inline std::uint64_t GetMagnitude(decNumber const& number)
     return sum;
 }
 
-} // namespace Tests::Plain
+} // namespace Plain

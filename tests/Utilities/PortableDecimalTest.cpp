@@ -6,18 +6,12 @@
 
 #include "RandomDecimal.h"
 
-namespace Tests
-{
-
 using Vek::Framework::Utilities::Decimal;
 using Vek::Framework::Utilities::PortableDecimal;
 
 TEST(PortableDecimal, ToDecimal)
 {
-    // clang-format off
-    struct Row { PortableDecimal value; char const *text, *why; };
-    // clang-format on
-    Row const rows[] = {
+    Rows<PortableDecimal, char const*, char const*> const rows = {
         { { 5, 0, 1, -2, true }, "-184467440737095516.21", "2^64 + 5" },
         { { UINT_MAX, UINT_MAX, UINT_MAX, 0, false }, "79228162514264337593543950335", "the greatest coefficient" },
         { { 0, 0, 0, -3, true }, "-0.000", "a zero keeps all" },
@@ -25,10 +19,10 @@ TEST(PortableDecimal, ToDecimal)
         { { UINT_MAX, UINT_MAX, UINT_MAX, INT_MAX, true }, "-Infinity", "too great" },
         { { UINT_MAX, UINT_MAX, UINT_MAX, INT_MIN, true }, "-0E-6176", "too small" },
     };
-    for (Row const& row : rows)
+    for (auto const& [value, text, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        EXPECT_EQ(Plain::Print(Decimal(row.value)), row.text);
+        SCOPED_TRACE(why);
+        EXPECT_EQ(Plain::Print(Decimal(value)), text);
     }
 }
 
@@ -56,5 +50,3 @@ TEST(PortableDecimal, NineteenDigitsComeBack)
     EXPECT_EQ(Plain::Scan("NaN7").ToPortable(), PortableDecimal(0, 0, 0, 0, false));
     EXPECT_NE(PortableDecimal(10, 0, 0, 0, false), PortableDecimal(1, 0, 0, 1, false));
 }
-
-} // namespace Tests

@@ -9,9 +9,6 @@
 
 #include "PlainDecNumber.h"
 
-namespace Tests
-{
-
 /// Operands of all sizes and places: amounts, full coefficients, runs of nines and zeros at the lengths where the quick
 /// ways end, exponents equal, near, far and at both ends, signed zeros, Infinity and NaN. The same for the same seed.
 class RandomDecimal
@@ -82,5 +79,3 @@ inline unsigned GetDifferentialCases()
     char const* const cases = std::getenv("VEK_DIFFERENTIAL_CASES");
     return cases == nullptr ? VEK_DEFAULT_DIFFERENTIAL_CASES : static_cast<unsigned>(std::stoul(cases));
 }
-
-} // namespace Tests

@@ -51,13 +51,7 @@ TEST(StringHelper, ToLowerKnowsTheLettersOfTheCodePage)
 
 TEST(StringHelper, ComparisonsFoldAsciiOnlyAndReadBytesAsSigned)
 {
-    struct Row
-    {
-        std::string a, b;
-        int expected;
-        char const* why;
-    };
-    Row const rows[] = {
+    Rows<std::string, std::string, int, char const*> const rows = {
         { "ABC", "abc", 0, "ASCII letters" },
         { "b", "A", 1, "the difference of the folded bytes" },
         { "ab", "abc", -1, "the shorter one is less" },
@@ -68,13 +62,13 @@ TEST(StringHelper, ComparisonsFoldAsciiOnlyAndReadBytesAsSigned)
         { "[", "{", -32, "no letters" },
         { "@BCDEFGHIJKLMNOPQRST", "`bcdefghijklmnopqrst", -32, "nor these, in a whole block" },
     };
-    for (Row const& row : rows)
+    for (auto const& [a, b, expected, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        EXPECT_EQ(row.expected, StringHelper::CompareIgnoreCase(row.a, row.b));
-        EXPECT_EQ(row.expected == 0, StringHelper::EqualsIgnoreCase(row.a, row.b));
-        EXPECT_EQ(row.expected == 0, StringHelper::EndsWithIgnoreCase("x" + row.a, row.b));
-        EXPECT_EQ(row.expected == 0, StringHelper::StartsWithIgnoreCase(row.a + "x", row.b + "X"));
+        SCOPED_TRACE(why);
+        EXPECT_EQ(expected, StringHelper::CompareIgnoreCase(a, b));
+        EXPECT_EQ(expected == 0, StringHelper::EqualsIgnoreCase(a, b));
+        EXPECT_EQ(expected == 0, StringHelper::EndsWithIgnoreCase("x" + a, b));
+        EXPECT_EQ(expected == 0, StringHelper::StartsWithIgnoreCase(a + "x", b + "X"));
     }
     std::string text = "A\304z";
     StringHelper::MakeLowerCase(text);

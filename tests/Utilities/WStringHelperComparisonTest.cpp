@@ -113,8 +113,7 @@ TEST(WStringHelperComparison, ContainsEndsAtZeroAndIgnoresTheCaseOfLetters)
 {
     using namespace std::string_literals;
     // clang-format off
-    struct Row { std::wstring text, part; bool expected; char const* why; };
-    Row const rows[] = {
+    Rows<std::wstring, std::wstring, bool, char const*> const rows = {
         { L"", L"", true, "an empty part is everywhere" },
         { L"", L"a", false, "nothing is in the empty text" },
         { L"Nummer", L"\0"s, false, "a part that ends at once is not found" },
@@ -129,10 +128,10 @@ TEST(WStringHelperComparison, ContainsEndsAtZeroAndIgnoresTheCaseOfLetters)
         { MakeText({ 'e' }), MakeText({ 0xE9 }), false, "an accent is a difference" },
     };
     // clang-format on
-    for (Row const& row : rows)
+    for (auto const& [text, part, expected, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        EXPECT_EQ(row.expected, WStringHelper::ContainsIgnoreCase(row.text, row.part));
+        SCOPED_TRACE(why);
+        EXPECT_EQ(expected, WStringHelper::ContainsIgnoreCase(text, part));
     }
 }
 

@@ -184,13 +184,7 @@ TEST(WStringHelperConversion, ByteOrderMarkGoesOnce)
 
 TEST(WStringHelperConversion, CodePageAnswersAQuestionMarkForWhatItCannotHold)
 {
-    struct Row
-    {
-        std::wstring text;
-        char const* expected;
-        char const* why;
-    };
-    Row rows[] = {
+    Rows<std::wstring, char const*, char const*> const rows = {
         { MakeText({ 0x80 }), "?", "the C1 code of a byte that has a character" },
         { MakeText({ 0x0391 }), "?", "Greek" },
         { MakeText({ 0x4E2D }), "?", "above the low byte" },
@@ -198,12 +192,12 @@ TEST(WStringHelperConversion, CodePageAnswersAQuestionMarkForWhatItCannotHold)
         { MakeText({ 0xDC00 }), "?", "a lone surrogate" },
         { MakeText({ 'x', c_hasWideElements ? 0x10041U : 0x4E2DU }), "x?", "no unit at all" },
     };
-    for (Row const& row : rows)
+    for (auto const& [units, marks, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        std::wstring const text = std::wstring(16, L'?') + row.text + std::wstring(16, L'y');
-        std::string const expected = std::string(16, '?') + row.expected + std::string(16, 'y');
-        EXPECT_EQ(row.expected, WStringHelper::GetCurrentCodepageString(row.text));
+        SCOPED_TRACE(why);
+        std::wstring const text = std::wstring(16, L'?') + units + std::wstring(16, L'y');
+        std::string const expected = std::string(16, '?') + marks + std::string(16, 'y');
+        EXPECT_EQ(marks, WStringHelper::GetCurrentCodepageString(units));
         EXPECT_EQ(expected, WStringHelper::GetCurrentCodepageString(text));
         EXPECT_EQ(expected, WStringHelper::GetWindows1252FromUTF16(text));
         std::string bytes = "before";

@@ -37,7 +37,7 @@ TEST(WStringHelper, SearchesEndAtTheFirstZero)
 {
     std::wstring const text = MakeText({ 'a', 'b', 0, 'c', 'd' });
     // clang-format off
-    struct { std::wstring other; bool isContained, isStart, isEnd; } const rows[] = {
+    Rows<std::wstring, bool, bool, bool> const rows = {
         { L"", true, true, true },
         { L"b", true, false, false },
         { L"ab", true, true, false },
@@ -48,11 +48,11 @@ TEST(WStringHelper, SearchesEndAtTheFirstZero)
         { MakeText({ 0 }), true, false, false },
     };
     // clang-format on
-    for (auto const& row : rows)
+    for (auto const& [other, isContained, isStart, isEnd] : rows)
     {
-        EXPECT_EQ(row.isContained, WStringHelper::Contains(text, row.other)) << row.other.size();
-        EXPECT_EQ(row.isStart, WStringHelper::StartsWith(text, row.other)) << row.other.size();
-        EXPECT_EQ(row.isEnd, WStringHelper::EndsWith(text, row.other)) << row.other.size();
+        EXPECT_EQ(isContained, WStringHelper::Contains(text, other)) << other.size();
+        EXPECT_EQ(isStart, WStringHelper::StartsWith(text, other)) << other.size();
+        EXPECT_EQ(isEnd, WStringHelper::EndsWith(text, other)) << other.size();
     }
     std::wstring const pair = MakeText({ 0xD83D, 0xDE00 });
     EXPECT_TRUE(WStringHelper::StartsWith(text, L'a'));
@@ -97,7 +97,7 @@ TEST(WStringHelper, TellsAndParsesNumbers)
     EXPECT_FALSE(WStringHelper::IsInteger(L"-12", false));
 
     // clang-format off
-    struct { std::wstring text; int value; } const values[] = {
+    Rows<std::wstring, int> const values = {
         { L" \t+12x", 12 }, { L"-3.9", -3 }, { L"", 0 }, { L"x", 0 }, { L"+-1", 0 }, { MakeText({ '1', 0, '2' }), 1 },
         { L"2147483647", INT_MAX }, { L"2147483648", INT_MAX }, { L"-2147483647", -INT_MAX },
         { L"-2147483648", INT_MIN }, { L"-2147483649", INT_MIN },
@@ -105,10 +105,10 @@ TEST(WStringHelper, TellsAndParsesNumbers)
         { MakeText({ 0xFF11 }), 0 }, { MakeText({ '1', 0xA0, '2' }), 1 },
     };
     // clang-format on
-    for (auto const& row : values)
+    for (auto const& [text, value] : values)
     {
-        SCOPED_TRACE(row.text);
-        EXPECT_EQ(row.value, WStringHelper::ParseInt(row.text));
+        SCOPED_TRACE(text);
+        EXPECT_EQ(value, WStringHelper::ParseInt(text));
     }
 }
 

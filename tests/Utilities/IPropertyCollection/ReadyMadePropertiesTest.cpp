@@ -63,13 +63,8 @@ TEST(ReadyMadeProperties, TextsForPeopleAndForFiles)
 {
     ReadyMade factory;
     auto const collection = factory.Create();
-    struct Row
-    {
-        unsigned int kind;
-        wchar_t const* stored;
-        wchar_t const* user; // null: the text is refused
-    };
-    Row const rows[] = {
+    // A kind, its text in the store, and the user's: null when it is refused.
+    Rows<unsigned int, wchar_t const*, wchar_t const*> const rows = {
         { Printer, L"", L"" },
         { Printer, L"\u00e4 \u20ac\n", L"\u00e4 \u20ac\n" },
         { Tray, L"9", L"9" },
@@ -93,18 +88,18 @@ TEST(ReadyMadeProperties, TextsForPeopleAndForFiles)
         { Paper, L"a5", L"DIN A5" },
         { Paper, L"DIN A4", nullptr },
     };
-    for (Row const& row : rows)
+    for (auto const& [kind, stored, user] : rows)
     {
-        StoredProperty& property = Stored(*collection, row.kind);
+        StoredProperty& property = Stored(*collection, kind);
         std::wstring const before = property.GetStoredText();
-        if (row.user != nullptr)
+        if (user != nullptr)
         {
-            property.SetStoredText(row.stored);
-            EXPECT_EQ(row.stored, property.GetStoredText());
-            EXPECT_EQ(row.user, collection->GetUserText(row.kind));
+            property.SetStoredText(stored);
+            EXPECT_EQ(stored, property.GetStoredText());
+            EXPECT_EQ(user, collection->GetUserText(kind));
             continue;
         }
-        EXPECT_THROW(property.SetStoredText(row.stored), IllegalValueException);
+        EXPECT_THROW(property.SetStoredText(stored), IllegalValueException);
         EXPECT_EQ(before, property.GetStoredText());
     }
 }

@@ -13,9 +13,6 @@
 
 #include <windows.h>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -170,5 +167,3 @@ TEST_F(ControlMessageLoopTest, StaysBelowAnotherProcedureUntilTheWindowIsGone)
 }
 
 } // namespace
-
-} // namespace Tests

@@ -11,9 +11,6 @@
 
 #include "TestDialog.h"
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -169,13 +166,7 @@ TEST(Window, DPIIsThatOfTheSystem)
 
 TEST(EditInput, SelectsTheFirstBadCharacter)
 {
-    struct Row
-    {
-        wchar_t const* text;
-        DWORD from;
-        DWORD to;
-    };
-    Row const rows[] = {
+    Rows<wchar_t const*, DWORD, DWORD> const rows = {
         { L"1.234,5x0", 7, 8 },
         { L"12,", 3, 3 },           // ends too early
         { L"1\xD83D\xDE00", 1, 3 }, // a pair
@@ -186,16 +177,16 @@ TEST(EditInput, SelectsTheFirstBadCharacter)
             dialog.GetWindow().SetVisible(true); // only then controls take the focus
             UI::Control edit = dialog.GetControlById(CONTROL_EDIT);
             Decimal amount = 7;
-            for (Row const& row : rows)
+            for (auto const& [text, from, to] : rows)
             {
-                SCOPED_TRACE(row.text);
+                SCOPED_TRACE(text);
                 SetFocus(GetDlgItem(dialog.GetWindow().GetHandle(), IDOK));
-                edit.SetText(row.text);
+                edit.SetText(text);
                 AmountFault fault;
                 EXPECT_FALSE(UI::TryGetAmount(edit, amount, fault));
-                EXPECT_EQ(fault.position, row.from);
+                EXPECT_EQ(fault.position, from);
                 EXPECT_EQ(GetFocus(), edit.GetHandle());
-                EXPECT_EQ(SendMessageW(edit.GetHandle(), EM_GETSEL, 0, 0), MAKELRESULT(row.from, row.to));
+                EXPECT_EQ(SendMessageW(edit.GetHandle(), EM_GETSEL, 0, 0), MAKELRESULT(from, to));
                 EXPECT_EQ(amount, 7);
             }
             DateTime date = DateTime::FromComponents(2024, 3, 5, 0, 0, 0);
@@ -213,5 +204,3 @@ TEST(EditInput, SelectsTheFirstBadCharacter)
 }
 
 } // namespace
-
-} // namespace Tests

@@ -15,9 +15,6 @@
 
 #include "TestDialog.h"
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -275,5 +272,3 @@ TEST(Control, ThirtyThousandMeasurementsSucceed)
 }
 
 } // namespace
-
-} // namespace Tests

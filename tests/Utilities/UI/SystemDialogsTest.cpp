@@ -9,9 +9,6 @@
 
 #include <windows.h>
 
-namespace Tests
-{
-
 namespace
 {
 
@@ -89,5 +86,3 @@ TEST(FileDialogs, AnswerTheChosenPathOrNothing)
 }
 
 } // namespace
-
-} // namespace Tests

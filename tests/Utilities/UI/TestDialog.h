@@ -9,9 +9,6 @@
 
 #include "Dialogs.h"
 
-namespace Tests
-{
-
 namespace UI = Vek::Framework::Utilities::UI;
 
 /// The example dialog with hooks from outside. Without any, it closes by itself at once.
@@ -55,5 +52,3 @@ private:
     bool OnCommand(unsigned int command) override { return onCommand(*this, command); }
     int GetResultCode() const override { return resultCode; }
 };
-
-} // namespace Tests
