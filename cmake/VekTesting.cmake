@@ -25,7 +25,7 @@ endfunction()
 
 # A GoogleTest program. Wine may end a crashed program with exit code 0, so there its last words count.
 function(vek_add_gtest target)
-    set(header ${PROJECT_SOURCE_DIR}/tests/RowTrace.h)
+    set(header ${PROJECT_SOURCE_DIR}/tests/Prelude.h)
     get_target_property(precompiled ${target} PRECOMPILE_HEADERS)
     if(precompiled)
         target_precompile_headers(${target} PRIVATE ${header})

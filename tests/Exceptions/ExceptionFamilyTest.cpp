@@ -10,11 +10,6 @@
 #include <Exceptions/Win32Exception.h>
 #include <IParser/StateParser.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <optional>
-#include <string>
 #include <type_traits>
 #include <typeinfo>
 

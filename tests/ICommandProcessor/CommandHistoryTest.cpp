@@ -3,13 +3,6 @@
 #include <ICommandProcessor/CommandHistory.h>
 #include <ICommandProcessor/CommandSupplier.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
-#include <random>
-#include <stdexcept>
-
 using namespace Vek;
 using namespace Vek::Framework::ICommandProcessor::Native;
 

@@ -5,10 +5,6 @@
 #include <ICommandProcessor/CommandSupplier.h>
 #include <ICommandProcessor/LambdaCommandCreator.h>
 
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 using namespace Vek;
 using namespace Vek::Framework::ICommandProcessor::Native;
 

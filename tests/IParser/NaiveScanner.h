@@ -1,9 +1,5 @@
 #pragma once
 
-#include <algorithm>
-#include <string>
-#include <vector>
-
 namespace SimpleParserTests
 {
 

@@ -3,11 +3,7 @@
 #include <Exceptions/NullPointerException.h>
 #include <IParser/SimpleParser.h>
 
-#include <gtest/gtest.h>
-
 #include <clocale>
-#include <memory>
-#include <random>
 
 using namespace SimpleParserTests;
 using namespace Vek::Framework::IParser::Native;

@@ -5,10 +5,6 @@
 #include <IParser/Internal/KeyAlreadyInsertedException.h>
 #include <IParser/Internal/StateToken.h>
 
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 using namespace Vek::Framework::IParser::Native;
 using Params = State::ResultParams;
 

@@ -1,11 +1,7 @@
 #include <GrammarParser.h>
 #include <RandomGrammar.h>
 
-#include <gtest/gtest.h>
-
 #include <cerrno>
-#include <random>
-#include <string>
 
 using namespace StateParserTests;
 

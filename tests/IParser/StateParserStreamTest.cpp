@@ -1,9 +1,5 @@
 #include <GrammarParser.h>
 
-#include <gtest/gtest.h>
-
-#include <sstream>
-
 using namespace StateParserTests;
 using Params = State::ResultParams;
 

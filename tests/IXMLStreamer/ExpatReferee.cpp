@@ -4,9 +4,6 @@
 
 #include <expat.h>
 
-#include <memory>
-#include <vector>
-
 namespace XMLConformanceTests
 {
 

@@ -1,9 +1,5 @@
 #pragma once
 
-#include <map>
-#include <string>
-#include <string_view>
-
 namespace XMLConformanceTests
 {
 

@@ -2,13 +2,6 @@
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLStreamer.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
-#include <sstream>
-#include <string>
-
 using namespace Vek::Framework::IXMLStreamer::Native;
 
 namespace

@@ -6,11 +6,6 @@
 #include <IXMLStreamer/XMLStreamer.h>
 #include <IXMLStreamer/XMLWriter.h>
 
-#include <gtest/gtest.h>
-
-#include <sstream>
-#include <string>
-
 using namespace AllocationLimit;
 using namespace Vek::Framework::IXMLStreamer::Native;
 

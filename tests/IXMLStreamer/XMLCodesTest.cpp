@@ -1,10 +1,5 @@
 #include <IXMLStreamer/XMLCodes.h>
 
-#include <gtest/gtest.h>
-
-#include <set>
-#include <string>
-
 using namespace Vek::Framework::IXMLStreamer::Native;
 
 namespace

@@ -3,15 +3,8 @@
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLStreamer.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <random>
-#include <sstream>
-#include <vector>
 
 // Every document of an XML conformance suite goes to the reader and to expat: what the reader takes in the strict
 // syntax, expat takes as well, without exception, and understands alike. Where the reader takes it leniently, too, it

@@ -1,9 +1,5 @@
 #include "XMLStreamerFixture.h"
 
-#include <gtest/gtest.h>
-
-#include <random>
-
 using namespace XMLStreamerTests;
 
 namespace

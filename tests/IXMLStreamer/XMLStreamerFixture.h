@@ -3,13 +3,7 @@
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLStreamer.h>
 
-#include <gtest/gtest.h>
-
-#include <sstream>
 #include <streambuf>
-#include <string>
-#include <string_view>
-#include <vector>
 
 namespace XMLStreamerTests
 {

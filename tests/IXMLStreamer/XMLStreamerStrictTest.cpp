@@ -1,7 +1,5 @@
 #include "XMLStreamerFixture.h"
 
-#include <gtest/gtest.h>
-
 using namespace XMLStreamerTests;
 
 namespace

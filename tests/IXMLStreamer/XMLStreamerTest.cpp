@@ -3,10 +3,6 @@
 #include <Exceptions/ArgumentException.h>
 #include <Exceptions/InvalidStateException.h>
 
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 #include <pthread.h>
 
 using namespace XMLStreamerTests;

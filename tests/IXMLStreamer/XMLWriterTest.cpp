@@ -1,13 +1,6 @@
 #include <IXMLStreamer/XMLWriter.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <sstream>
-#include <stdexcept>
 #include <streambuf>
-#include <string>
-#include <vector>
 
 using namespace Vek::Framework::IXMLStreamer::Native;
 

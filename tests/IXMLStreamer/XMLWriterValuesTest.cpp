@@ -2,18 +2,8 @@
 #include <IXMLStreamer/XMLStreamer.h>
 #include <IXMLStreamer/XMLWriter.h>
 
-#include <gtest/gtest.h>
-
-#include <climits>
 #include <cstddef>
-#include <iomanip>
-#include <limits>
 #include <locale>
-#include <random>
-#include <sstream>
-#include <string>
-#include <string_view>
-#include <vector>
 
 using namespace Vek::Framework::IXMLStreamer::Native;
 

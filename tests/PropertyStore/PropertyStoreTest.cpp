@@ -13,11 +13,6 @@
 #include <Utilities/IPropertyCollection/PropertyCollectionFactoryAccess.h>
 #include <Utilities/IPropertyCollection/TextProperty.h>
 
-#include <gtest/gtest.h>
-
-#include <fstream>
-#include <sstream>
-#include <stdexcept>
 #include <streambuf>
 
 using namespace Vek;

@@ -7,13 +7,6 @@
 
 #include "PrintDate.h"
 
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <set>
-#include <utility>
-#include <vector>
-
 namespace
 {
 

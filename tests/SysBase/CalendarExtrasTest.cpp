@@ -11,15 +11,6 @@
 
 #include <Exceptions/EnumOutOfRangeException.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <fstream>
-#include <limits>
-#include <set>
-#include <sstream>
-#include <string>
-
 using namespace VekSysBase;
 
 // tables/make-tables.py says how the tables were made.

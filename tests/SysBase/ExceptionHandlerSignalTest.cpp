@@ -1,9 +1,6 @@
 #include <SysBase/ExceptionHandler.h>
 #include <SysBase/Faults.h>
 
-#include <gtest/gtest.h>
-
-#include <climits>
 #include <thread>
 
 #include <pthread.h>

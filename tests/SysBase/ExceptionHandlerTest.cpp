@@ -1,13 +1,9 @@
 #include <SysBase/ExceptionHandler.h>
 #include <SysBase/Faults.h>
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <atomic>
 #include <cfenv>
-#include <memory>
-#include <stdexcept>
 #include <thread>
 
 namespace

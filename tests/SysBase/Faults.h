@@ -1,7 +1,5 @@
 #pragma once
 
-#include <climits>
-
 // Code that faults for real. The sanitizers would report most of it first.
 #if defined(__GNUC__)
 #    define FAULTS_ON_PURPOSE __attribute__((noinline, no_sanitize("undefined", "address")))

@@ -2,10 +2,7 @@
 
 #include "PrintDate.h"
 
-#include <gtest/gtest.h>
-
 #include <chrono>
-#include <limits>
 
 using VekSysBase::DayOfWeek;
 using VekSysBase::VekDateEx;

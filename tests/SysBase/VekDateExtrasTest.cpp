@@ -7,10 +7,6 @@
 #include <SysBase/VekDateStreams.h>
 #include <SysBase/VekDateText.h>
 
-#include <gtest/gtest.h>
-
-#include <iomanip>
-#include <sstream>
 #include <unordered_set>
 
 namespace

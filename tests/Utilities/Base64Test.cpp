@@ -4,13 +4,6 @@
 #include <Exceptions/NullPointerException.h>
 #include <Utilities/Base64.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <random>
-#include <stdexcept>
-#include <vector>
-
 using namespace Vek::Framework::Utilities;
 
 namespace

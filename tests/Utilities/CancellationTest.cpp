@@ -2,11 +2,6 @@
 #include <Utilities/CancellationToken.h>
 #include <Utilities/EventHandleContainer.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <string>
-
 using namespace Vek::Framework::Utilities;
 
 TEST(CancellationToken, EveryCopyHasItsOwnFlag)

@@ -6,10 +6,6 @@
 #include <Utilities/CodePointEnumerator.h>
 #include <Utilities/WStringHelper.h>
 
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 using namespace Vek::Framework::Utilities;
 
 namespace

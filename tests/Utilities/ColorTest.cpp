@@ -8,14 +8,6 @@
 #include <Utilities/ColorText.h>
 #include <Utilities/RGBColors.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <limits>
-#include <sstream>
-#include <vector>
-
 namespace
 {
 

@@ -3,12 +3,6 @@
 #include <Utilities/CommaSeparatedValueViewReader.h>
 #include <Utilities/CommaSeparatedValueWriter.h>
 
-#include <gtest/gtest.h>
-
-#include <random>
-#include <stdexcept>
-#include <vector>
-
 using namespace Vek::Framework::Utilities;
 
 namespace

@@ -8,13 +8,7 @@
 #include <Utilities/DecimalLiterals.h>
 #include <Utilities/DurationText.h>
 
-#include <gtest/gtest.h>
-
-#include <iomanip>
-#include <random>
-#include <sstream>
 #include <unordered_set>
-#include <vector>
 
 namespace
 {

@@ -3,10 +3,7 @@
 #include <Exceptions/ArgumentException.h>
 #include <Utilities/DateTimeHelper.h>
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
-#include <string>
 
 namespace
 {

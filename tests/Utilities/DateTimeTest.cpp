@@ -6,13 +6,8 @@
 #include <Utilities/DecimalLiterals.h>
 #include <Utilities/Duration.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <chrono>
-#include <climits>
 #include <ctime>
-#include <vector>
 
 namespace
 {

@@ -1,10 +1,7 @@
 #include "DecTestFile.h"
 
-#include <algorithm>
 #include <cctype>
-#include <fstream>
 #include <iterator>
-#include <stdexcept>
 
 namespace
 {

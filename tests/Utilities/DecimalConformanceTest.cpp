@@ -6,13 +6,6 @@
 
 #include <Utilities/Decimal.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <map>
-#include <optional>
-#include <set>
-
 #include "DecTestFile.h"
 #include "PlainDecNumber.h"
 

@@ -2,11 +2,6 @@
 
 #include <Utilities/Decimal.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <limits>
-
 #include "RandomDecimal.h"
 
 namespace

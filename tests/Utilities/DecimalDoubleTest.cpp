@@ -2,12 +2,6 @@
 
 #include <Utilities/Decimal.h>
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <cstring>
-#include <limits>
-
 #include "RandomDecimal.h"
 
 namespace

@@ -10,10 +10,6 @@
 #include <Utilities/DecimalParsing.h>
 #include <Utilities/DecimalStreams.h>
 
-#include <gtest/gtest.h>
-
-#include <iomanip>
-#include <sstream>
 #include <unordered_map>
 
 #include "RandomDecimal.h"

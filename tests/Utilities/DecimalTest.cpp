@@ -2,10 +2,6 @@
 
 #include <Exceptions/EnumOutOfRangeException.h>
 
-#include <gtest/gtest.h>
-
-#include <climits>
-
 #include "RandomDecimal.h"
 
 namespace

@@ -4,10 +4,6 @@
 
 #include <Exceptions/InvalidStateException.h>
 
-#include <gtest/gtest.h>
-
-#include <vector>
-
 #include "RandomDecimal.h"
 #include "UnitText.h"
 

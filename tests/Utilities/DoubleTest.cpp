@@ -1,9 +1,5 @@
 #include <Utilities/Double.h>
 
-#include <gtest/gtest.h>
-
-#include <limits>
-
 using Vek::Framework::Utilities::Double;
 
 TEST(Double, Comparisons)

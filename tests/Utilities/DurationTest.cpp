@@ -6,12 +6,6 @@
 #include <Utilities/DecimalLiterals.h>
 #include <Utilities/Duration.h>
 
-#include <gtest/gtest.h>
-
-#include <climits>
-#include <cmath>
-#include <random>
-
 namespace
 {
 

@@ -2,13 +2,7 @@
 #include <Utilities/Event.h>
 #include <Utilities/Nullable.h>
 
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <stdexcept>
-#include <string>
 #include <type_traits>
-#include <utility>
 
 using namespace Vek::Framework::Utilities;
 

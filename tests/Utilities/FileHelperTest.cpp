@@ -4,8 +4,6 @@
 #include <Exceptions/InvalidStateException.h>
 #include <Utilities/FileHelper.h>
 
-#include <optional>
-
 using namespace Vek::Framework::Utilities;
 
 namespace

@@ -6,8 +6,6 @@
 #include <Utilities/DebuggerLogger.h>
 
 #include <cstdio>
-#include <random>
-#include <vector>
 
 using namespace Vek::Framework::Utilities;
 

@@ -5,11 +5,6 @@
 #include <Utilities/HexConverter.h>
 #include <Utilities/WStringHelper.h>
 
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-#include <vector>
-
 using namespace Vek::Framework::Utilities;
 
 namespace

@@ -6,14 +6,7 @@
 #include <Utilities/IntRectangleSets.h>
 #include <Utilities/UI/StackLayoutHelper.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <limits>
-#include <sstream>
 #include <unordered_set>
-#include <utility>
-#include <vector>
 
 namespace
 {

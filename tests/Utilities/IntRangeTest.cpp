@@ -3,14 +3,6 @@
 #include <Utilities/GeometryHash.h>
 #include <Utilities/IntRangeText.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <limits>
-#include <random>
-#include <set>
-#include <vector>
-
 namespace
 {
 

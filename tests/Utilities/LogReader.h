@@ -5,7 +5,6 @@
 #include <Utilities/FileLogger.h>
 
 #include <iterator>
-#include <string>
 
 /// What the tests of FileLogger share: a clock that they turn, and the bytes of files.
 class LogFolder

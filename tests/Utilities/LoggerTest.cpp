@@ -4,11 +4,7 @@
 #include <Utilities/MultiLogger.h>
 #include <Utilities/SynchronizedLogger.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <thread>
-#include <vector>
 
 using namespace Vek::Framework::Utilities;
 

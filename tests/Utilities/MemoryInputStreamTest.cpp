@@ -3,12 +3,7 @@
 #include <Utilities/MemoryInputStream.h>
 #include <Utilities/SizedArray.h>
 
-#include <gtest/gtest.h>
-
 #include <iterator>
-#include <limits>
-#include <string>
-#include <utility>
 
 using Vek::Framework::Utilities::DataBuffer;
 using Vek::Framework::Utilities::MemoryInputStream;

@@ -4,8 +4,6 @@
 
 #include <bit>
 #include <cstdint>
-#include <cstring>
-#include <string>
 
 extern "C"
 {

@@ -1,9 +1,5 @@
 #include <Utilities/PortableDecimal.h>
 
-#include <gtest/gtest.h>
-
-#include <climits>
-
 #include "RandomDecimal.h"
 
 using Vek::Framework::Utilities::Decimal;

@@ -2,17 +2,7 @@
 
 #include <Utilities/WStringHelper.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cstdio>
-#include <fstream>
-#include <map>
-#include <set>
-#include <sstream>
-#include <stdexcept>
-#include <string>
-#include <vector>
 
 using Vek::Framework::Utilities::WStringHelper;
 

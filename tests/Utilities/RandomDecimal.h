@@ -2,10 +2,7 @@
 
 #include <Utilities/Decimal.h>
 
-#include <algorithm>
 #include <cstdint>
-#include <random>
-#include <string>
 
 #include "PlainDecNumber.h"
 

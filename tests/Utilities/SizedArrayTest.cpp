@@ -1,11 +1,6 @@
 #include <Exceptions/ArgumentException.h>
 #include <Utilities/SizedArray.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstring>
-#include <limits>
 #include <new>
 
 using Vek::Framework::Utilities::SizedArray;

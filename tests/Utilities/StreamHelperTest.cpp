@@ -1,13 +1,6 @@
 #include <Utilities/StreamHelper.h>
 #include <Utilities/WStringHelper.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <random>
-#include <sstream>
-#include <stdexcept>
-
 using namespace Vek::Framework::Utilities;
 
 namespace

@@ -1,10 +1,6 @@
 #include <Exceptions/ArgumentException.h>
 #include <Utilities/StringHelper.h>
 
-#include <gtest/gtest.h>
-
-#include <vector>
-
 using Vek::Framework::Utilities::StringHelper;
 using namespace std::string_literals;
 

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
-#include <fstream>
-#include <string>
 
 /// A new empty folder of the running test, removed with all that is in it.
 class TemporaryFolder

@@ -2,14 +2,6 @@
 #include <Utilities/TimeMeasure.h>
 #include <Utilities/TimeMeasureContainer.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <limits>
-#include <map>
-#include <memory>
-#include <vector>
-
 using namespace Vek::Framework::Utilities;
 
 namespace

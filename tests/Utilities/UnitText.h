@@ -1,7 +1,6 @@
 #pragma once
 
 #include <initializer_list>
-#include <string>
 
 /// Wide text of the given elements; literals above 0x7F would depend on the compiler's character sets.
 inline std::wstring MakeText(std::initializer_list<unsigned> units)

@@ -2,14 +2,6 @@
 
 #include <Utilities/WStringHelper.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <map>
-#include <random>
-#include <utility>
-#include <vector>
-
 using Vek::Framework::Utilities::WStringHelper;
 
 namespace

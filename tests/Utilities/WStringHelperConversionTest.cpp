@@ -2,10 +2,6 @@
 
 #include <Utilities/WStringHelper.h>
 
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 using Vek::Framework::Utilities::WStringHelper;
 
 namespace

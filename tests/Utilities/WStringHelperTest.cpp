@@ -4,11 +4,6 @@
 #include <Exceptions/NullPointerException.h>
 #include <Utilities/WStringHelper.h>
 
-#include <gtest/gtest.h>
-
-#include <climits>
-#include <utility>
-
 using namespace Vek::Framework::Utilities;
 
 TEST(WStringHelper, CodePointArithmetic)

@@ -1,4 +1,7 @@
 // A program's module that uses the library: loading it loads the library, unloading it unloads that as well.
+#include <IXMLStreamer/XMLContentElement.h>
+#include <IXMLStreamer/XMLStreamer.h>
+#include <SysBase/ExceptionHandler.h>
 #include <Utilities/Decimal.h>
 #include <Utilities/TimeMeasure.h>
 #include <Utilities/TimeMeasureContainer.h>
@@ -7,6 +10,7 @@
 #include <memory>
 #include <string>
 
+using namespace Vek::Framework;
 using namespace Vek::Framework::Utilities;
 
 #if defined(_WIN32)
@@ -66,4 +70,21 @@ MODULE_API char const* Work(long long nanoseconds)
     Convert();
     s_report += TimeMeasureContainer::GetResults();
     return s_report.c_str();
+}
+
+/// Uses what the library keeps for later calls once it was used.
+MODULE_API bool UseTheRest()
+{
+    IXMLStreamer::Native::XMLStreamer reader;
+    std::string title;
+    reader.CreateRootStructureElement("r").CreateContentElement("t").SetOnDo(1, [&title](auto&, auto& content)
+                                                                             { return title = content, true; });
+    reader.SetVersion(1);
+    return reader.ProcessSource(std::string_view("<?xml version='1.0'?>\n<r><t>a&amp;b</t></r>")) && title == "a&b" &&
+           Decimal::FromString(L"1.5", L'.') * 3 == Decimal::FromString(L"4,5", L',');
+}
+
+MODULE_API bool UseTheGuard()
+{
+    return !VekSysBase::ExceptionHandler::ExecuteSafe([] { throw 5; }, L"", L"", L"");
 }

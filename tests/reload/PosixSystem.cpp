@@ -6,14 +6,17 @@
 #include <dlfcn.h>
 #include <malloc.h>
 
-void* LoadModule(char const* path, Work& work)
+void* LoadModule(char const* path)
 {
     void* const module = dlopen(path, RTLD_NOW | RTLD_LOCAL);
     if (module == nullptr)
         std::printf("%s\n", dlerror());
-    else
-        work = reinterpret_cast<Work>(dlsym(module, "Work"));
     return module;
+}
+
+void* FindFunction(void* module, char const* name)
+{
+    return dlsym(module, name);
 }
 
 void UnloadModule(void* module)

@@ -4,10 +4,9 @@
 
 // What the test asks the system for, past the library.
 
-using Work = char const* (*)(long long nanoseconds);
-
 /// Null if the module cannot be loaded; the reason has been printed then.
-void* LoadModule(char const* path, Work& work);
+void* LoadModule(char const* path);
+void* FindFunction(void* module, char const* name);
 void UnloadModule(void* module);
 
 /// Whether the module or library of that path or name is still there.

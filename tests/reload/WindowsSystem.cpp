@@ -3,14 +3,17 @@
 #include <cstdio>
 #include <windows.h>
 
-void* LoadModule(char const* path, Work& work)
+void* LoadModule(char const* path)
 {
     HMODULE const module = LoadLibraryA(path);
     if (module == nullptr)
         std::printf("error %lu\n", GetLastError());
-    else
-        work = reinterpret_cast<Work>(reinterpret_cast<void*>(GetProcAddress(module, "Work")));
     return module;
+}
+
+void* FindFunction(void* module, char const* name)
+{
+    return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(module), name));
 }
 
 void UnloadModule(void* module)

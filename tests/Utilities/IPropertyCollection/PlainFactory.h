@@ -1,10 +1,5 @@
 #pragma once
 
-#include <algorithm>
-#include <string>
-#include <utility>
-#include <vector>
-
 /// The rules of the factory put down as plainly as they are told; the test compares every step with it.
 struct PlainCollection
 {

@@ -4,8 +4,6 @@
 #include <Utilities/IPropertyCollection/PropertyCollectionFactory.h>
 #include <Utilities/IPropertyCollection/PropertyCollectionFactoryAccess.h>
 
-#include <gtest/gtest.h>
-
 using namespace Vek::Framework::Utilities::IPropertyCollection::Native;
 
 // Where all properties are there, the only allocation is for another template name, if it is long.

@@ -4,13 +4,7 @@
 
 #include <Exceptions/InvalidStateException.h>
 
-#include <gtest/gtest.h>
-
 #include <iterator>
-#include <set>
-#include <sstream>
-#include <stdexcept>
-#include <vector>
 
 using namespace Vek;
 using namespace Vek::Framework::Utilities::IPropertyCollection::Native;

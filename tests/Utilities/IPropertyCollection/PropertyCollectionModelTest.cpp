@@ -3,11 +3,7 @@
 #include "HookedProperty.h"
 #include "PlainFactory.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
-#include <random>
-#include <sstream>
 
 using namespace Vek::Framework::Utilities::IPropertyCollection::Native;
 

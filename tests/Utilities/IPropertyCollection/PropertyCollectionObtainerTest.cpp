@@ -5,11 +5,6 @@
 #include <Utilities/IPropertyCollection/PropertyCollectionExceptions.h>
 #include <Utilities/IPropertyCollection/PropertyCollectionObtainer.h>
 
-#include <gtest/gtest.h>
-
-#include <optional>
-#include <stdexcept>
-
 using namespace Vek;
 using namespace Vek::Framework::Utilities::IPropertyCollection::Native;
 

@@ -4,10 +4,6 @@
 #include <Exceptions/InvalidStateException.h>
 #include <Utilities/IPropertyCollection/PropertyCollectionExceptions.h>
 
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 using namespace Vek;
 using namespace Vek::Framework::Utilities::IPropertyCollection::Native;
 

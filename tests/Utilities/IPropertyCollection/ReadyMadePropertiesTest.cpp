@@ -13,11 +13,7 @@
 #include <Utilities/IPropertyCollection/PropertyCollectionFactoryAccess.h>
 #include <Utilities/IPropertyCollection/TextProperty.h>
 
-#include <gtest/gtest.h>
-
 #include <iterator>
-#include <memory>
-#include <random>
 
 using namespace Vek;
 using namespace Vek::Framework::Utilities;

@@ -4,13 +4,6 @@
 #include <Exceptions/InvalidStateException.h>
 #include <Utilities/UI/ControlMessageLoop.h>
 
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <optional>
-#include <stdexcept>
-#include <string>
-
 #include <windows.h>
 
 namespace

@@ -5,8 +5,6 @@
 #include <Utilities/UI/DeviceContext.h>
 #include <Utilities/UI/EditInput.h>
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 
 #include "TestDialog.h"

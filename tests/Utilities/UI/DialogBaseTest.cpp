@@ -4,14 +4,7 @@
 #include <Exceptions/InvalidStateException.h>
 #include <Exceptions/Win32Exception.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cstdlib>
-#include <memory>
-#include <stdexcept>
-#include <string>
-#include <vector>
 
 #include "TestDialog.h"
 

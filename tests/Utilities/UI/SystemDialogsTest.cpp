@@ -3,10 +3,6 @@
 #include <Utilities/UI/DocumentFault.h>
 #include <Utilities/UI/FileDialogs.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-
 #include <windows.h>
 
 namespace

@@ -2,9 +2,6 @@
 
 #include <Utilities/UI/DialogBase.h>
 
-#include <functional>
-#include <utility>
-
 #include <windows.h>
 
 #include "Dialogs.h"

@@ -2,11 +2,30 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <climits>
+#include <cmath>
+#include <cstring>
 #include <exception>
+#include <fstream>
+#include <functional>
+#include <iomanip>
+#include <limits>
+#include <map>
+#include <memory>
+#include <optional>
+#include <random>
+#include <set>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
 #include <tuple>
+#include <utility>
 #include <vector>
 
-// Included before every test, so that it stands in for GoogleTest's SCOPED_TRACE.
+// What every test begins with: GoogleTest and what tests use of the standard library, read once where it is
+// precompiled.
 
 /// A table, whose columns get their names where it is walked:
 /// `Rows<int, char const*> const rows = { { 1, "one" } }; for (auto const& [number, why] : rows)`.
