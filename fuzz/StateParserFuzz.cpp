@@ -1,3 +1,4 @@
+#include "Choices.h"
 #include "GrammarParser.h"
 #include "RandomGrammar.h"
 
@@ -9,19 +10,6 @@ using namespace StateParserTests;
 
 namespace
 {
-
-/// Answers choices from the front of the input, then zeros.
-class Choices
-{
-public:
-    Choices(std::uint8_t const* data, std::size_t size) : m_at(data), m_end(data + size) {}
-    unsigned int operator()(unsigned int end) { return m_at == m_end ? 0 : *m_at++ % end; }
-    std::string GetRest() const { return std::string(m_at, m_end); }
-
-private:
-    std::uint8_t const* m_at;
-    std::uint8_t const* m_end;
-};
 
 void Compare(std::string const& expected, std::string const& trace, Grammar const& grammar, std::string const& source)
 {

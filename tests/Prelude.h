@@ -21,6 +21,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <typeinfo>
 #include <utility>
 #include <vector>
 
@@ -31,6 +32,25 @@
 /// `Rows<int, char const*> const rows = { { 1, "one" } }; for (auto const& [number, why] : rows)`.
 template <class... Columns>
 using Rows = std::vector<std::tuple<Columns...>>;
+
+/// The text of the exception of exactly this type that `action` throws; else what it did instead.
+template <class E>
+std::string MessageOf(std::function<void()> const& action)
+{
+    try
+    {
+        action();
+    }
+    catch (E const& caught)
+    {
+        return typeid(caught) == typeid(E) ? caught.what() : "a class derived from it";
+    }
+    catch (std::exception const& other)
+    {
+        return std::string("another type: ") + other.what();
+    }
+    return "nothing thrown";
+}
 
 namespace Tests
 {

@@ -91,7 +91,7 @@ void ReplaceFile(std::filesystem::path const& path, std::function<void(std::ostr
     std::ostringstream stream;
     write(stream);
     std::u16string const name = path.u16string();
-    FileReplacementResult const result = ReplaceFileContent({ name.begin(), name.end() }, stream.view());
+    FileReplacementResult const result = ReplaceFileContent(std::wstring(name.begin(), name.end()), stream.view());
     if (result != FileReplacementResult::Replaced)
         throw DocumentError(FullNameOf(path) + Explain(result));
 }

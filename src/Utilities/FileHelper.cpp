@@ -5,6 +5,7 @@
 #include <Platform/CodePage.h>
 #include <Platform/FileSystem.h>
 #include <Platform/InputFile.h>
+#include <Utilities/Internal/PathText.h>
 #include <Utilities/Internal/TextFile.h>
 
 #include <algorithm>
@@ -17,11 +18,6 @@ namespace Vek::Framework::Utilities
 
 namespace
 {
-
-std::wstring Widen(std::string const& path)
-{
-    return path.empty() ? std::wstring() : Platform::DecodeCodePage(path);
-}
 
 void RequireExisting(std::wstring const& path)
 {
@@ -81,7 +77,7 @@ bool FileHelper::Exists(std::wstring const& path)
 
 bool FileHelper::Exists(std::string const& path)
 {
-    return Exists(Widen(path));
+    return Exists(Internal::WidenPath(path));
 }
 
 FileExistenceResult FileHelper::GetExistenceState(std::wstring const& path)
@@ -99,7 +95,7 @@ FileExistenceResult FileHelper::GetExistenceState(std::wstring const& path)
 
 FileExistenceResult FileHelper::GetExistenceState(std::string const& path)
 {
-    return GetExistenceState(Widen(path));
+    return GetExistenceState(Internal::WidenPath(path));
 }
 
 bool FileHelper::EnsureDirectoryExists(std::wstring const& path)
@@ -109,7 +105,7 @@ bool FileHelper::EnsureDirectoryExists(std::wstring const& path)
 
 bool FileHelper::EnsureDirectoryExists(std::string const& path)
 {
-    return EnsureDirectoryExists(Widen(path));
+    return EnsureDirectoryExists(Internal::WidenPath(path));
 }
 
 bool FileHelper::Copy(std::wstring const& source, std::wstring const& target, bool overwrite)
@@ -119,7 +115,7 @@ bool FileHelper::Copy(std::wstring const& source, std::wstring const& target, bo
 
 bool FileHelper::Copy(std::string const& source, std::string const& target, bool overwrite)
 {
-    return Copy(Widen(source), Widen(target), overwrite);
+    return Copy(Internal::WidenPath(source), Internal::WidenPath(target), overwrite);
 }
 
 void FileHelper::Delete(std::wstring const& path)
@@ -129,7 +125,7 @@ void FileHelper::Delete(std::wstring const& path)
 
 void FileHelper::Delete(std::string const& path)
 {
-    Delete(Widen(path));
+    Delete(Internal::WidenPath(path));
 }
 
 bool FileHelper::HasEqualContent(std::wstring const& first, std::wstring const& second)
@@ -143,7 +139,7 @@ bool FileHelper::HasEqualContent(std::wstring const& first, std::wstring const& 
 
 bool FileHelper::HasEqualContent(std::string const& first, std::string const& second)
 {
-    return HasEqualContent(Widen(first), Widen(second));
+    return HasEqualContent(Internal::WidenPath(first), Internal::WidenPath(second));
 }
 
 std::shared_ptr<SizedArray<unsigned char>> FileHelper::ReadBinary(std::wstring const& path)
@@ -163,7 +159,7 @@ std::shared_ptr<SizedArray<unsigned char>> FileHelper::ReadBinary(std::wstring c
 
 std::shared_ptr<SizedArray<unsigned char>> FileHelper::ReadBinary(std::string const& path)
 {
-    return ReadBinary(Widen(path));
+    return ReadBinary(Internal::WidenPath(path));
 }
 
 std::wstring FileHelper::GetFilename(std::wstring const& path)
@@ -176,7 +172,7 @@ std::wstring FileHelper::GetFilename(std::wstring const& path)
 std::string FileHelper::GetFilename(std::string const& path)
 {
     // By way of UTF-16, since the byte of a backslash may be half a character in some code pages.
-    std::wstring const wide = Widen(path);
+    std::wstring const wide = Internal::WidenPath(path);
     std::wstring const name = GetFilename(wide);
     return name.size() == wide.size() ? path : Platform::EncodeCodePage(name);
 }

@@ -2,6 +2,7 @@
 
 #include <Platform/FileReplacement.h>
 #include <Platform/FileSystem.h>
+#include <Utilities/Internal/PathText.h>
 
 namespace Vek::Framework::Utilities
 {
@@ -39,6 +40,11 @@ FileReplacementResult ReplaceFileContent(std::wstring const& path, std::string_v
         return FileReplacementResult::Replaced;
     Platform::RemoveFile(temporary);
     return FileReplacementResult::NotMoved;
+}
+
+FileReplacementResult ReplaceFileContent(std::string const& path, std::string_view bytes)
+{
+    return ReplaceFileContent(Internal::WidenPath(path), bytes);
 }
 
 } // namespace Vek::Framework::Utilities

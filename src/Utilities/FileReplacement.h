@@ -24,5 +24,6 @@ enum class FileReplacementResult : int
 /// Anything but Replaced leaves the old one, or none, and no temporary file. Paths as FileHelper takes them. A link is
 /// replaced itself, not what it leads to.
 VEK_API FileReplacementResult ReplaceFileContent(std::wstring const& path, std::string_view bytes);
+VEK_API FileReplacementResult ReplaceFileContent(std::string const& path, std::string_view bytes);
 
 } // namespace Vek::Framework::Utilities

@@ -11,7 +11,6 @@
 #include <IParser/StateParser.h>
 
 #include <type_traits>
-#include <typeinfo>
 
 namespace
 {
@@ -20,25 +19,6 @@ using namespace Vek;
 using Vek::Framework::IParser::Native::State;
 using Vek::Framework::IParser::Native::StateParser;
 
-// Runs `raise` and answers the text of what it threw, provided that E is its exact type.
-template <class E>
-std::string CaughtText(std::function<void()> const& raise)
-{
-    try
-    {
-        raise();
-    }
-    catch (E const& caught)
-    {
-        return typeid(caught) == typeid(E) ? caught.what() : "a class derived from it";
-    }
-    catch (std::exception const& other)
-    {
-        return std::string("taken for another type: ") + other.what();
-    }
-    return "nothing thrown";
-}
-
 // Throws in the host, from a consumer, so that the exception crosses the library's frames.
 template <class E>
 void ExpectOneOfTheFamily(E const& exception, std::string const& text)
@@ -46,7 +26,7 @@ void ExpectOneOfTheFamily(E const& exception, std::string const& text)
     StateParser parser;
     parser.RegisterState(1, StateParser::KeepWhiteSpace)
         ->RegisterTextConsumer([&exception](std::string const&, State::ResultParams&) { throw exception; });
-    EXPECT_EQ(text, CaughtText<E>([&] { parser.ProcessSource("text"); }));
+    EXPECT_EQ(text, MessageOf<E>([&] { parser.ProcessSource("text"); }));
 }
 
 // No class of the family is the base of another: a handler takes its own kind only.

@@ -34,15 +34,7 @@ TEST(CommandCreatorRegistry, FirstNumberAndFirstNameStay)
     EXPECT_TRUE(registry.TryFindCommandId("print", id));
     EXPECT_EQ(5, id);
     EXPECT_THROW(registry.RegisterCommandCreator(nullptr), ArgumentException);
-    try
-    {
-        registry.GetCommandCreator(6);
-        ADD_FAILURE();
-    }
-    catch (std::out_of_range const& error)
-    {
-        EXPECT_STREQ("invalid unordered_map<K, T> key", error.what());
-    }
+    EXPECT_EQ("invalid unordered_map<K, T> key", MessageOf<std::out_of_range>([&] { registry.GetCommandCreator(6); }));
     CommandResult const result = registry.GetCommandCreator(id)()->Execute();
     EXPECT_FALSE(result.IsSuccess());
     EXPECT_EQ(L"out of paper", result.GetErrorMessage());

@@ -1,7 +1,6 @@
-#include "NaiveScanner.h"
+#include <ScannerTrial.h>
 
 #include <Exceptions/NullPointerException.h>
-#include <IParser/SimpleParser.h>
 
 #include <clocale>
 
@@ -10,31 +9,6 @@ using namespace Vek::Framework::IParser::Native;
 
 namespace
 {
-
-SimpleParser MakeParser(ScannerRules const& rules, std::string const& source, bool recordSymbols = false)
-{
-    SimpleParser parser(recordSymbols);
-    for (ScannerToken const& token : rules.tokens)
-        EXPECT_TRUE(parser.AddToken(token.id, token.text, "dropped", token.isScannable)) << token.text;
-    parser.SetCommentToken(rules.comment);
-    parser.SetTextToken(rules.text);
-    parser.SetTabSize(rules.tabSize);
-    parser.ProvideSource(source);
-    return parser;
-}
-
-std::string KindOf(Symbol const& symbol)
-{
-    char const* const kinds[] = { "none", "i", "t", "n", "raw" };
-    if (symbol.GetSymbolType() == Symbol::Token)
-        return std::string("#").append(std::to_string(symbol.GetTokenId()));
-    return symbol.GetState() == Symbol::Unterminated ? "cut" : kinds[symbol.GetSymbolType() - Symbol::Undefined];
-}
-
-std::string ToEntry(Symbol const& symbol)
-{
-    return MakeEntry(KindOf(symbol), symbol.GetText(), symbol.GetLine(), symbol.GetColumn());
-}
 
 std::string Trace(SimpleParser& parser)
 {
@@ -161,40 +135,10 @@ TEST(SimpleParser, AWalkSeesWhatItRecordsAndEndsWithTheSource)
 TEST(SimpleParser, AgreesWithTheNaiveScanner)
 {
     std::mt19937 engine(1);
-    auto const choose = [&](std::size_t end) { return engine() % end; };
-    auto const makeText = [&](std::string const& alphabet, std::size_t length)
-    {
-        std::string text(length, ' ');
-        std::generate(text.begin(), text.end(), [&] { return alphabet[choose(alphabet.size())]; });
-        return text;
-    };
-    std::string const alphabets[] = { "a1.-+ \t", "<=/a\" \n", "/#\"\t\r\n b", "\344=\t '1." };
+    auto const choose = [&engine](unsigned int end) { return static_cast<unsigned int>(engine() % end); };
     for (int round = 0; round < 20000; ++round)
     {
-        std::string const& alphabet = alphabets[choose(4)];
-        ScannerRules rules;
-        rules.comment = choose(2) == 0 ? "//" : makeText(alphabet, choose(4));
-        rules.text = choose(2) == 0 ? '"' : alphabet[choose(alphabet.size())];
-        rules.tabSize = static_cast<unsigned int>(choose(5));
-        for (int id = 0; id < 5; ++id)
-        {
-            ScannerToken const token{ id, makeText(alphabet, 1 + choose(3)), choose(4) != 0 };
-            auto const isSame = [&](ScannerToken const& other) { return other.text == token.text; };
-            if (choose(2) == 0 && std::none_of(rules.tokens.begin(), rules.tokens.end(), isSame))
-                rules.tokens.push_back(token);
-        }
-        std::string const source = makeText(alphabet, choose(40));
-        NaiveScanner naive(rules, source);
-        SimpleParser parser = MakeParser(rules, source);
-        Symbol symbol;
-        for (std::string expected = "first"; !expected.empty();)
-        {
-            if (choose(6) == 0)
-                naive.InvokePassThrough(), parser.InvokePassThrough();
-            expected = naive.Next();
-            bool const isThere = parser.GetNextSymbol(symbol);
-            ASSERT_EQ(expected, isThere ? ToEntry(symbol) : "")
-                << "round " << round << ", source <" << source << ">, comment <" << rules.comment << ">";
-        }
+        ScannerTrial trial(choose);
+        ASSERT_EQ("", trial.Compare(trial.MakeText(choose(40)))) << "round " << round;
     }
 }

@@ -31,19 +31,6 @@ struct Tracer
     std::string trace;
 };
 
-std::string MessageOf(std::function<void()> const& action)
-{
-    try
-    {
-        action();
-    }
-    catch (std::exception const& e)
-    {
-        return e.what();
-    }
-    return "no exception";
-}
-
 } // namespace
 
 TEST(StateParserRegistration, AFailedOneLeavesNothingBehind)
@@ -76,10 +63,8 @@ TEST(StateParserRegistration, FindTokenFollowsTheTreeAsItIs)
     state.RegisterSkipToken("<B", State::CaseInsensitive);
     for (char const* const token : { "c", "fo", "for", "fort" })
         state.RegisterSkipToken(token, State::CaseSensitive);
-    struct
-    {
-        char const *text, *found, *why; // found is "" for none
-    } const rows[] = {
+    // The token found is "" for none.
+    Rows<char const*, char const*, char const*> const rows = {
         { "<bx", "<B", "an exact walk also stops at tokens without case" },
         { "<Bx", "<", "what the exact walk finds ends the search, though a folded walk goes further" },
         { "C", "c", "a folded walk also stops at tokens with case" },
@@ -89,10 +74,10 @@ TEST(StateParserRegistration, FindTokenFollowsTheTreeAsItIs)
         { "fo", "fo", "and the shortest" },
         { "", "", "no text" },
     };
-    for (auto const& row : rows)
+    for (auto const& [text, found, why] : rows)
     {
-        Internal::StateToken const* const token = state.FindToken(row.text);
-        EXPECT_EQ(row.found, token == nullptr ? "" : token->text) << row.why;
+        Internal::StateToken const* const token = state.FindToken(text);
+        EXPECT_EQ(found, token == nullptr ? "" : token->text) << why;
     }
     EXPECT_EQ(nullptr, state.GetTokenRoot('B'));
     EXPECT_NE(nullptr, state.GetTokenRoot('c'));
@@ -120,8 +105,8 @@ TEST(StateParserErrors, MisuseIsReported)
     t.OnToken("!", {});
     t.state.RegisterTransitionToken("=", 0xFFFFFFFFU, State::CaseSensitive);
     for (char const* const source : { "?", "=", "a?" })
-        EXPECT_EQ("invalid unordered_map<K, T> key", MessageOf([&] { t.parser.ProcessSource(source); }));
-    EXPECT_THROW(t.parser.ProcessSource("?"), std::out_of_range);
+        EXPECT_EQ("invalid unordered_map<K, T> key",
+                  MessageOf<std::out_of_range>([&] { t.parser.ProcessSource(source); }));
     EXPECT_THROW(t.parser.ProcessSource("!"), std::bad_function_call);
     ParserResult const none = t.parser.GetParserResult(); // no run has ended
     EXPECT_TRUE(none.stateId == 0xFFFFFFFFU && none.line == -1 && none.column == -1);
@@ -137,7 +122,7 @@ TEST(StateParserErrors, AnExceptionPassesAndTheNextRunIsClean)
     t.OnToken("go", [](Params& params) { params.nextStateId = 2; });
     t.OnToken("!", [](Params&) { throw std::runtime_error("consumer"); });
     EXPECT_FALSE(t.parser.RegisterState(3, StateParser::KeepWhiteSpace)->HasTextConsumer());
-    EXPECT_EQ("consumer", MessageOf([&] { t.parser.ProcessSource("\nb!c"); }));
+    EXPECT_EQ("consumer", MessageOf<std::runtime_error>([&] { t.parser.ProcessSource("\nb!c"); }));
     t.trace.clear();
     EXPECT_TRUE(t.parser.ProcessSource("cd<go"));
     EXPECT_EQ("cd;<;", t.trace);

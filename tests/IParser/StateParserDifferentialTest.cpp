@@ -40,25 +40,21 @@ private:
 
 TEST(StateParserDifferential, RandomTokensAndSourcesInEveryMode)
 {
-    struct
-    {
-        unsigned int seeds, length;
-        char const* why;
-    } const rows[] = {
+    Rows<unsigned int, unsigned int, char const*> const rows = {
         { 2500, 6, "tokens cut short" },
         { 2500, 30, "texts between them" },
         { 40, 9000, "outgrows the few kilobytes that the parser keeps beside a block, again and again" },
     };
-    for (auto const& row : rows)
-        for (unsigned int seed = 0; seed < row.seeds; ++seed)
+    for (auto const& [seeds, length, why] : rows)
+        for (unsigned int seed = 0; seed < seeds; ++seed)
         {
-            SCOPED_TRACE(row.why + std::to_string(seed));
+            SCOPED_TRACE(why + std::to_string(seed));
             Random random(seed);
             RandomGrammar make(random);
             Grammar const grammar = make.MakeGrammar();
-            std::string const source = make.MakeSource(row.length);
+            std::string const source = make.MakeSource(length);
             std::string const expected = NaiveParser(grammar, source).Run();
-            for (std::size_t const pieceSize : { 0U, 1 + random(row.length / 3) })
+            for (std::size_t const pieceSize : { 0U, 1 + random(length / 3) })
                 ASSERT_TRUE(Agree(expected, grammar, source, pieceSize));
         }
 }
@@ -81,27 +77,22 @@ TEST(StateParserDifferential, EverySplitOfASource)
 TEST(StateParserDifferential, TellsNumbersFromTexts)
 {
     // clang-format off
-    struct
-    {
-        std::string text;
-        char const* number; // null for a text
-    } const rows[] = {
+    Rows<std::string, char const*> const rows = { // null for a text
         { "12.5", "12.500000" }, { "12.5x", nullptr }, { " 12", "12.000000" }, { "12 ", nullptr },
         { "-1e2", "-100.000000" }, { "1e", nullptr }, { "0x10", "16.000000" }, { "-", nullptr }, { "1e999", nullptr },
         { "1e-999", nullptr }, { std::string("1\0", 2), nullptr },
     };
     // clang-format on
-    for (auto const& row : rows)
+    for (auto const& [source, number] : rows)
         for (bool const isTextView : { false, true })
         {
             errno = EDOM;
-            SCOPED_TRACE(Quoted(row.text));
+            SCOPED_TRACE(Quoted(source));
             GrammarParser parser(
                 { { .text = { Reaction::Continue }, .number = { Reaction::Continue }, .isTextView = isTextView } });
-            std::string const what =
-                row.number != nullptr ? std::string("number ") + row.number : "text " + Quoted(row.text);
-            EXPECT_EQ(what + " @0 in 7\n-> 0 in 7 at 1:" + std::to_string(row.text.size() + 1) + "\n",
-                      parser.RunString(row.text));
+            std::string const what = number != nullptr ? std::string("number ") + number : "text " + Quoted(source);
+            EXPECT_EQ(what + " @0 in 7\n-> 0 in 7 at 1:" + std::to_string(source.size() + 1) + "\n",
+                      parser.RunString(source));
             EXPECT_EQ(EDOM, errno);
         }
 }

@@ -1,3 +1,5 @@
+#include "BreakingBuffer.h"
+
 #include <GrammarParser.h>
 
 using namespace StateParserTests;
@@ -7,21 +9,6 @@ namespace
 {
 
 constexpr std::size_t c_block = 1 << 20;
-
-/// Hands out "a<" and fails then.
-class FailingBuffer : public std::streambuf
-{
-    int_type underflow() override
-    {
-        if (m_next == std::end(m_text))
-            throw std::runtime_error("disk");
-        setg(m_next, m_next, m_next + 1);
-        return traits_type::to_int_type(*m_next++);
-    }
-
-    char m_text[2] = { 'a', '<' };
-    char* m_next = m_text;
-};
 
 /// A parser of one state that notes where its texts and tokens begin, and stops at "!".
 struct Places
@@ -94,27 +81,24 @@ TEST(StateParserStream, ATextMayBeLongerThanManyBlocks)
 
 TEST(StateParserStream, ByCharacterReadsNoFurtherThanRecognitionNeeds)
 {
-    struct
-    {
-        char const *source, *rest, *why;
-    } const rows[] = {
+    Rows<char const*, char const*, char const*> const rows = {
         { "ab!cd", "cd", "a token that nothing goes on from" },
         { "!", "", "the end is not looked for" },
         { "a-->bc", "bc", "the longest token" },
         { "a--bc", "c", "one byte tells that it is the shorter one" },
     };
-    for (auto const& row : rows)
+    for (auto const& [source, left, why] : rows)
     {
         Places places;
         auto const stop = [](Params& params) { params.stop = true; };
         places.state.RegisterTokenConsumer("--", stop, State::CaseSensitive);
         places.state.RegisterTokenConsumer("-->", stop, State::CaseInsensitive);
-        std::istringstream stream(row.source);
+        std::istringstream stream(source);
         EXPECT_TRUE(places.parser.ProcessSource(stream, false));
         EXPECT_TRUE(stream.good());
         std::string rest;
         std::getline(stream, rest);
-        EXPECT_EQ(row.rest, rest) << row.why;
+        EXPECT_EQ(left, rest) << why;
     }
 }
 
@@ -138,7 +122,7 @@ TEST(StateParserStream, AStreamThatFailsIsBadAndThrowsIfAskedTo)
     for (bool const throws : { false, true })
     {
         Places places;
-        FailingBuffer buffer;
+        BreakingBuffer buffer("a<");
         std::istream stream(&buffer);
         stream.exceptions(throws ? std::ios_base::badbit : std::ios_base::goodbit);
         if (throws)

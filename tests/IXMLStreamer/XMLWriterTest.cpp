@@ -1,5 +1,6 @@
 #include <IXMLStreamer/XMLWriter.h>
 
+#include <array>
 #include <streambuf>
 
 using namespace Vek::Framework::IXMLStreamer::Native;
@@ -25,15 +26,13 @@ TEST(XMLWriter, OperationsInEveryState)
     constexpr int c_done = -1;   // true, no error
     constexpr int c_failed = -2; // false, without an error of its own
     // Outcomes in these states: failed, never started, finished, started, open, closed.
-    struct Row
-    {
-        Step operation;
-        int outcome[6]; // c_done, c_failed or the code of the error
-    };
-    Row const rows[] = {
-        { Begin, { c_failed, 3, 3, c_done, c_done, 2 } }, { End, { c_failed, 3, 3, 1, c_done, 6 } },
-        { Content, { c_failed, 3, 3, 4, c_done, 2 } },    { Comment, { c_failed, 3, c_done, c_done, c_done, c_done } },
-        { Finish, { c_failed, 3, 3, 1, 5, c_done } },
+    // c_done, c_failed or the code of the error
+    Rows<char const*, Step, std::array<int, 6>> const rows = {
+        { "begin", Begin, { c_failed, 3, 3, c_done, c_done, 2 } },
+        { "end", End, { c_failed, 3, 3, 1, c_done, 6 } },
+        { "content", Content, { c_failed, 3, 3, 4, c_done, 2 } },
+        { "comment", Comment, { c_failed, 3, c_done, c_done, c_done, c_done } },
+        { "finish", Finish, { c_failed, 3, 3, 1, 5, c_done } },
     };
     std::ostringstream stream;
     Step const start = [&stream](XMLWriter& writer) { return writer.StartWriting(stream, false); };
@@ -41,19 +40,19 @@ TEST(XMLWriter, OperationsInEveryState)
     std::vector<Step> const preparations[] = {
         { start, failing }, {}, { start, Begin, End, Finish }, { start }, { start, Begin }, { start, Begin, End }
     };
-    for (Row const& row : rows)
-        for (int state = 0; state < 6; ++state)
+    for (auto const& [name, operation, outcomes] : rows)
+        for (std::size_t state = 0; state < 6; ++state)
         {
-            SCOPED_TRACE(std::to_string(&row - rows) + " in " + std::to_string(state));
+            SCOPED_TRACE(name + std::to_string(state));
             stream.str("");
             XMLWriter writer;
             for (Step const& step : preparations[state])
                 EXPECT_TRUE(step(writer));
 
             std::string const before = stream.str();
-            int const expected = row.outcome[state];
+            int const expected = outcomes[state];
             int const code = expected >= 0 ? expected : state == 0 ? 1 : 0;
-            EXPECT_EQ(expected == c_done, row.operation(writer));
+            EXPECT_EQ(expected == c_done, operation(writer));
             WriterError const& error = writer.GetLastError();
             EXPECT_EQ(code, static_cast<int>(error.GetErrorCode()));
             EXPECT_TRUE(error.GetLine() == -1 && error.GetColumn() == -1);
@@ -97,27 +96,22 @@ TEST(XMLWriter, Layout)
 TEST(XMLWriter, RefusedAttributeOrNameFailsTheWriter)
 {
     auto const emptyName = [](Emitter const& emit) { emit("a", "1"), emit("", "2"), emit("c", "3"); };
-    struct Row
-    {
-        Step operation;
-        char const* written;
-    };
-    Row const rows[] = {
+    Rows<Step, char const*> const rows = {
         { [&](XMLWriter& w) { return w.WriteBeginStructure("b", emptyName); }, "\t<b a=\"1\" c=\"3\"" },
         { [&](XMLWriter& w) { return w.WriteContentValue("b", 5, emptyName); }, "\t<b a=\"1\" c=\"3\"" },
         { [&](XMLWriter& w) { return w.WriteContent("b", emptyName); }, "\t<b a=\"1\" c=\"3\"" },
         { [&](XMLWriter& w) { return w.WriteBeginStructure("", emptyName); }, "" },
     };
-    for (Row const& row : rows)
+    for (auto const& [operation, written] : rows)
     {
         std::ostringstream stream;
         XMLWriter writer;
         EXPECT_TRUE(writer.StartWriting(stream, false) && Begin(writer));
-        EXPECT_FALSE(row.operation(writer));
-        EXPECT_EQ(WriterError::EmptyName, writer.GetLastError().GetErrorCode()) << &row - rows;
+        EXPECT_FALSE(operation(writer));
+        EXPECT_EQ(WriterError::EmptyName, writer.GetLastError().GetErrorCode()) << written;
         EXPECT_STREQ("", writer.GetLastError().GetDescription());
         EXPECT_FALSE(End(writer));
-        EXPECT_EQ(std::string("<a>\n") + row.written, stream.str());
+        EXPECT_EQ(std::string("<a>\n") + written, stream.str());
     }
 }
 

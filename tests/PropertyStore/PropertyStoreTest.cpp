@@ -1,3 +1,4 @@
+#include "BreakingBuffer.h"
 #include "Utilities/TemporaryFolder.h"
 
 #include <Exceptions/InvalidStateException.h>
@@ -112,22 +113,6 @@ private:
     std::size_t m_left;
 };
 
-/// Gives a text, then fails as a broken disk does.
-class BrokenSource : public std::streambuf
-{
-public:
-    explicit BrokenSource(std::string text) : m_text(std::move(text))
-    {
-        setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
-    }
-
-protected:
-    int_type underflow() override { throw std::runtime_error("broken"); }
-
-private:
-    std::string m_text;
-};
-
 } // namespace
 
 TEST(PropertyStore, EverythingComesBack)
@@ -148,7 +133,7 @@ TEST(PropertyStore, EverythingComesBack)
         EXPECT_EQ(a.IsDeletable(), b.IsDeletable());
     }
     EXPECT_EQ(6u, loaded.Obtain(L"", L"new").GetId()); // 5 was given already
-    EXPECT_THROW(Load(loaded, document), InvalidStateException);
+    EXPECT_THROW(Load(loaded, ""), InvalidStateException) << "whatever there is to read";
 }
 
 // A stream that ends or breaks after any number of bytes: the old factory, or the new one.
@@ -165,7 +150,7 @@ TEST(PropertyStore, PrefixesAndBrokenStreams)
         PropertyStoreResult const result = Load(loaded, document.substr(0, size));
         ASSERT_NE(Code::Ok, result.code) << size;
         ASSERT_FALSE(result.text.empty());
-        BrokenSource broken(document.substr(0, size));
+        BreakingBuffer broken(document.substr(0, size));
         std::istream source(&broken);
         ASSERT_EQ(Code::SourceNotReadable, PropertyStore::Load(loaded, source).code) << size;
         FullDisk disk(size);
@@ -222,6 +207,7 @@ TEST(PropertyStore, BadDocumentsAreToldWithTheirPlace)
         PropertyStoreResult const result = Load(settings, document);
         EXPECT_EQ(code, result.code);
         EXPECT_EQ(line, result.line);
+        EXPECT_EQ(line == -1, result.column == -1);
         EXPECT_EQ(path[0] == '-' ? "" : std::string("/propertyStore") + path, result.path);
         EXPECT_FALSE(result.text.empty());
         EXPECT_EQ(before, Save(settings));

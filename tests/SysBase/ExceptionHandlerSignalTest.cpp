@@ -90,16 +90,8 @@ TEST(ExceptionHandlerSignals, BlockedSignalsDoNotMakeAFaultDeadly)
 
 TEST_F(ExceptionHandlerDeathTest, WhatNoGuardTakesIsForTheHandlerFromBefore)
 {
-    struct Row
-    {
-        char const* why;
-        int signal;
-        void (*handler)(int);
-        int flags;
-        void (*action)();
-        int code; // of the exit, 0 when the signal kills
-    };
-    Row const rows[] = {
+    // Why, signal, its handler and flags, action, code of the exit: 0 when the signal kills.
+    Rows<char const*, int, void (*)(int), int, void (*)(), int> const rows = {
         { "none", SIGSEGV, SIG_DFL, 0, [] { raise(SIGSEGV); }, 0 },
         { "none for a breakpoint, which does not come again", SIGTRAP, SIG_DFL, 0, Faults::Breakpoint, 0 },
         { "ignoring, which the system does not grant for a real fault", SIGSEGV, SIG_IGN, 0, Faults::WriteNull, 0 },
@@ -113,18 +105,11 @@ TEST_F(ExceptionHandlerDeathTest, WhatNoGuardTakesIsForTheHandlerFromBefore)
           [] { Execute([] { kill(getpid(), SIGSEGV); }); }, c_hostHandled },
         { "ignoring a breakpoint", SIGTRAP, SIG_IGN, 0, [] { raise(SIGTRAP), _exit(c_hostHandled); }, c_hostHandled },
     };
-    for (Row const& row : rows)
+    for (auto const& [why, signal, handler, flags, action, code] : rows)
     {
-        auto const die = [&row]
-        {
-            Handle(row.signal, row.handler, row.flags);
-            UseGuard();
-            row.action();
-        };
-        if (row.code == 0)
-            EXPECT_EXIT(die(), testing::KilledBySignal(row.signal), "") << row.why;
-        else
-            EXPECT_EXIT(die(), testing::ExitedWithCode(row.code), "") << row.why;
+        auto const isExpected = [expected = code, deadly = signal](int status)
+        { return expected == 0 ? testing::KilledBySignal(deadly)(status) : testing::ExitedWithCode(expected)(status); };
+        EXPECT_EXIT((Handle(signal, handler, flags), UseGuard(), action()), isExpected, "") << why;
     }
 }
 

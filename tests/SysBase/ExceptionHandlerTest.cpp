@@ -57,13 +57,7 @@ void FaultWhileUnwinding()
     throw LostException();
 }
 
-struct Row
-{
-    char const* what;
-    void (*action)();
-};
-
-Row const c_failures[] = {
+Rows<char const*, void (*)()> const c_failures = {
     { "exception of the standard library", [] { throw std::runtime_error("failed"); } },
     { "exception of no class", [] { throw 5; } },
     { "exception whose destructor throws", [] { throw ThrowingDestructor(); } },
@@ -81,16 +75,16 @@ Row const c_failures[] = {
 // Every failure in every surrounding: a thread must be as good as new after each.
 void ExpectEveryFailureCaught()
 {
-    for (Row const& row : c_failures)
+    for (auto const& [what, action] : c_failures)
     {
-        SCOPED_TRACE(row.what);
+        SCOPED_TRACE(what);
         for (int repetition = 0; repetition < 3; ++repetition)
         {
-            EXPECT_FALSE(Execute(row.action));
+            EXPECT_FALSE(Execute(action));
             EXPECT_EQ(0, std::uncaught_exceptions());
             EXPECT_EQ(nullptr, std::current_exception());
         }
-        auto const nested = [&row] { EXPECT_FALSE(Execute(row.action)); };
+        auto const nested = [run = action] { EXPECT_FALSE(Execute(run)); };
         EXPECT_TRUE(Execute(nested));
         EXPECT_FALSE(Execute([&] { nested(), Faults::WriteNull(); })) << "outer fault after an inner failure";
     }

@@ -15,17 +15,9 @@ std::string Decoded(std::wstring const& text)
     return std::string(bytes->GetData(), bytes->GetData() + bytes->GetSize());
 }
 
-std::string MessageOf(std::wstring const& text)
+std::string Refusal(std::wstring const& text)
 {
-    try
-    {
-        Base64::Decode(text);
-    }
-    catch (std::invalid_argument const& e)
-    {
-        return e.what();
-    }
-    return "none";
+    return MessageOf<std::invalid_argument>([&] { Base64::Decode(text); });
 }
 
 // Six bits at a time, as the standard says it.
@@ -96,10 +88,10 @@ TEST(Base64, FindsAForeignUnitAnywhere)
 
 TEST(Base64, RefusesWhatIsNone)
 {
-    EXPECT_EQ("size must be multiple of 4", MessageOf(L"TQ="));
-    EXPECT_EQ("size must be multiple of 4", MessageOf(L"====="));
-    EXPECT_EQ("too many filler symbols (=)", MessageOf(L"T==="));
-    EXPECT_EQ("too many filler symbols (=)", MessageOf(L"===="));
+    EXPECT_EQ("size must be multiple of 4", Refusal(L"TQ="));
+    EXPECT_EQ("size must be multiple of 4", Refusal(L"====="));
+    EXPECT_EQ("too many filler symbols (=)", Refusal(L"T==="));
+    EXPECT_EQ("too many filler symbols (=)", Refusal(L"===="));
     EXPECT_EQ("M", Decoded(L"TR==")) << "spare bits are not looked at";
     std::string const symbols = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/=";
     for (unsigned unit = 0; unit < 0x200; ++unit)

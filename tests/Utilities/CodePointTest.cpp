@@ -30,17 +30,14 @@ wchar_t Unit(unsigned value)
 std::string MessageOfTheEnd(std::wstring const& text)
 {
     CodePointEnumerator walk(text);
-    try
+    auto const walkOn = [&]
     {
         while (walk.MoveNext())
             ;
-    }
-    catch (std::out_of_range const& e)
-    {
-        EXPECT_FALSE(walk.MoveNext()) << "the walk stands behind the unit";
-        return e.what();
-    }
-    return "";
+    };
+    std::string const message = MessageOf<std::out_of_range>(walkOn);
+    EXPECT_FALSE(walk.MoveNext()) << "the walk stands behind the unit";
+    return message;
 }
 
 } // namespace

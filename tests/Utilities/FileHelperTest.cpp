@@ -29,9 +29,7 @@ TEST(FileHelper, ExistenceHasThreeStates)
 {
     TemporaryFolder const folder;
     folder.Write("file", "x");
-    // clang-format off
-    struct Row { std::wstring path; FileExistenceResult state; char const* why; };
-    Row const rows[] = {
+    Rows<std::wstring, FileExistenceResult, char const*> const rows = {
         { folder.At(L"file"), FileExistenceResult::Existing, "a file" },
         { folder.GetPath().wstring(), FileExistenceResult::Existing, "a directory" },
         { folder.At(L""), FileExistenceResult::Existing, "a directory with a separator" },
@@ -43,20 +41,19 @@ TEST(FileHelper, ExistenceHasThreeStates)
         { L"", FileExistenceResult::Undetermined, "no path" },
         { folder.At(std::wstring(L"file\0", 5)), FileExistenceResult::Undetermined, "not cut at a 0 unit" },
     };
-    // clang-format on
-    for (Row const& row : rows)
+    for (auto const& [path, state, why] : rows)
     {
-        SCOPED_TRACE(row.why);
-        auto const expect = [&row](auto const& path)
+        SCOPED_TRACE(why);
+        auto const expect = [expected = state](auto const& wideOrNarrow)
         {
-            EXPECT_EQ(FileHelper::GetExistenceState(path), row.state);
-            if (row.state == FileExistenceResult::Undetermined)
-                EXPECT_THROW(FileHelper::Exists(path), Vek::InvalidStateException);
+            EXPECT_EQ(FileHelper::GetExistenceState(wideOrNarrow), expected);
+            if (expected == FileExistenceResult::Undetermined)
+                EXPECT_THROW(FileHelper::Exists(wideOrNarrow), Vek::InvalidStateException);
             else
-                EXPECT_EQ(FileHelper::Exists(path), row.state == FileExistenceResult::Existing);
+                EXPECT_EQ(FileHelper::Exists(wideOrNarrow), expected == FileExistenceResult::Existing);
         };
-        expect(row.path);
-        expect(Narrow(row.path));
+        expect(path);
+        expect(Narrow(path));
     }
 }
 

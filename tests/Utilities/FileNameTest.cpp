@@ -1,8 +1,9 @@
 #include "TemporaryFolder.h"
 
 #include <Utilities/FileHelper.h>
+#include <Utilities/FileReplacement.h>
 
-using Vek::Framework::Utilities::FileHelper;
+using namespace Vek::Framework::Utilities;
 
 TEST(FileName, BeyondAsciiMeansTheSameWideAndNarrow)
 {
@@ -19,6 +20,8 @@ TEST(FileName, BeyondAsciiMeansTheSameWideAndNarrow)
     EXPECT_TRUE(FileHelper::Exists(narrow));
     EXPECT_TRUE(FileHelper::Copy(narrow, copy, false) && FileHelper::HasEqualContent(narrow, copy));
     EXPECT_TRUE(FileHelper::Exists(folder.At(L"\u00E4.txt")) && FileHelper::ReadBinary(copy)->GetSize() == 1);
+    EXPECT_EQ(FileReplacementResult::Replaced, ReplaceFileContent(copy, "new"));
+    EXPECT_EQ(3U, FileHelper::ReadBinary(folder.At(L"\u00E4.txt"))->GetSize());
     FileHelper::Delete(copy);
     EXPECT_TRUE(FileHelper::EnsureDirectoryExists(copy));
     EXPECT_TRUE(std::filesystem::is_directory(folder.GetPath() / std::filesystem::path(u8"\u00E4.txt")));

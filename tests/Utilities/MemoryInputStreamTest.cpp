@@ -23,22 +23,20 @@ std::string ReadRest(std::istream& stream)
 
 TEST(MemoryInputStream, SeeksToTheNearestEnd)
 {
-    // clang-format off
-    struct Row { long long offset; std::ios_base::seekdir way; long long position; /* from 5 on, in 10 bytes */ };
-    Row const rows[] = {
-        { 20, std::ios_base::beg, 10 }, { -1, std::ios_base::beg, 0 },
-        { -3, std::ios_base::end, 7 }, { -2, std::ios_base::cur, 3 },
+    // From 5 on, in 10 bytes.
+    Rows<long long, std::ios_base::seekdir, long long> const rows = {
+        { 20, std::ios_base::beg, 10 },     { -1, std::ios_base::beg, 0 },
+        { -3, std::ios_base::end, 7 },      { -2, std::ios_base::cur, 3 },
         { c_most, std::ios_base::cur, 10 }, { c_least, std::ios_base::cur, 0 }, // sums that would overflow
         { c_most, std::ios_base::end, 10 }, { c_least, std::ios_base::end, 0 },
     };
-    // clang-format on
-    for (Row const& row : rows)
+    for (auto const& [offset, way, position] : rows)
     {
-        SCOPED_TRACE(row.offset);
+        SCOPED_TRACE(offset);
         MemoryInputStream stream("0123456789", 10);
         EXPECT_EQ(stream.seekg(5).tellg(), 5);
-        EXPECT_EQ(stream.seekg(row.offset, row.way).tellg(), row.position);
-        EXPECT_EQ(ReadRest(stream), std::string("0123456789").substr(static_cast<std::size_t>(row.position)));
+        EXPECT_EQ(stream.seekg(offset, way).tellg(), position);
+        EXPECT_EQ(ReadRest(stream), std::string("0123456789").substr(static_cast<std::size_t>(position)));
     }
     MemoryInputStream stream("0123456789", 10);
     EXPECT_EQ(stream.seekg(20).tellg(), 10);

@@ -22,15 +22,7 @@ std::vector<std::string> ReadLines(std::string const& name)
 
 bool IsRefused(std::string const& text)
 {
-    try
-    {
-        WStringHelper::GetUTF16FromUTF8(text);
-        return false;
-    }
-    catch (std::range_error const&)
-    {
-        return true;
-    }
+    return MessageOf<std::range_error>([&] { WStringHelper::GetUTF16FromUTF8(text); }) == "bad conversion";
 }
 
 bool IsBeyondAscii(char c)
@@ -111,13 +103,8 @@ TEST(PublishedData, EveryMalformedSequenceOfTheUtf8StressTestIsRefused)
 
 TEST(PublishedData, LowerCaseIsSimpleCaseFoldingButForNamedUnits)
 {
-    struct Row
-    {
-        unsigned first, last;
-        char const* why;
-    };
     // Folding goes to one of all partners, case only to one that leads back.
-    Row const rows[] = {
+    Rows<unsigned, unsigned, char const*> const rows = {
         { 0xB5, 0xB5, "micro sign" },
         { 0x17F, 0x17F, "long s" },
         { 0x1C5, 0x1C5, "title-case dz with caron" },
@@ -144,12 +131,12 @@ TEST(PublishedData, LowerCaseIsSimpleCaseFoldingButForNamedUnits)
     ASSERT_EQ(1194U, folding.size());
     for (unsigned unit = 0; unit <= 0xFFFF; ++unit)
     {
-        auto const row = std::find_if(std::begin(rows), std::end(rows), [&](Row const& r) { return unit <= r.last; });
-        bool const isNamed = row != std::end(rows) && unit >= row->first;
+        auto const row = std::find_if(rows.begin(), rows.end(), [&](auto& r) { return unit <= std::get<1>(r); });
+        bool const isNamed = row != rows.end() && unit >= std::get<0>(*row);
         unsigned const folded = folding.contains(unit) ? folding[unit] : unit;
         wchar_t const lower = WStringHelper::ToLowerCase(static_cast<wchar_t>(unit));
         EXPECT_EQ(!isNamed, lower == static_cast<wchar_t>(folded))
-            << std::hex << unit << " to " << folded << (isNamed ? row->why : "");
+            << std::hex << unit << " to " << folded << (isNamed ? std::get<2>(*row) : "");
         EXPECT_EQ(lower == WStringHelper::ToLowerCase(static_cast<wchar_t>(folded)),
                   WStringHelper::EqualsIgnoreCase(MakeText({ unit }), MakeText({ folded })))
             << std::hex << unit << " and " << folded;

@@ -1,3 +1,5 @@
+#include "BreakingBuffer.h"
+
 #include <Utilities/StreamHelper.h>
 #include <Utilities/WStringHelper.h>
 
@@ -27,13 +29,6 @@ std::wstring ReadWide(std::istream& stream)
     auto const array = StreamHelper::ReadUTF16FromCurrentCodePage(stream);
     return std::wstring(array->GetData(), array->GetSize());
 }
-
-/// Gives `good` and then fails as a broken disk would.
-struct BreakingBuffer : std::stringbuf
-{
-    using std::stringbuf::stringbuf;
-    int_type underflow() override { throw std::runtime_error("broken"); }
-};
 
 } // namespace
 

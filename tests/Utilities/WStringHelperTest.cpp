@@ -73,12 +73,7 @@ TEST(WStringHelper, CaseOfEveryUnit)
 
 TEST(WStringHelper, TellsAndParsesNumbers)
 {
-    struct
-    {
-        wchar_t const* text;
-        Nullable<wchar_t> separator;
-        bool allowNegative, isNumber;
-    } const rows[] = {
+    Rows<wchar_t const*, Nullable<wchar_t>, bool, bool> const rows = {
         { L"-1,5", L',', true, true }, { L"1,5,", L',', true, false }, { L"1-", {}, true, false },
         { L"-1", L',', false, false }, { L"--1", L',', true, false },  { L"-", L'.', true, false },
         { L".", L'.', true, false },   { L"5.", L'.', true, true },    { L".5", L'.', true, true },
@@ -86,8 +81,8 @@ TEST(WStringHelper, TellsAndParsesNumbers)
         { L"", L'.', true, false },    { L"1e5", L'.', true, false },  { L"0123456789", {}, false, true },
         { L"-1", L'-', true, true },   { L"-1-", L'-', true, false },  { L"010", L'0', false, false },
     };
-    for (auto const& row : rows)
-        EXPECT_EQ(row.isNumber, WStringHelper::IsNumber(row.text, row.separator, row.allowNegative)) << row.text;
+    for (auto const& [text, separator, allowNegative, isNumber] : rows)
+        EXPECT_EQ(isNumber, WStringHelper::IsNumber(text, separator, allowNegative)) << text;
     EXPECT_TRUE(WStringHelper::IsInteger(L"-12", true));
     EXPECT_FALSE(WStringHelper::IsInteger(L"-12", false));
 

@@ -1,5 +1,7 @@
 """Stops the program and compares what GDB shows with the texts beside the values. Run by GDB itself."""
 
+import decimal
+
 import gdb
 
 
@@ -18,7 +20,8 @@ def check():
     samples, numbers, shapes, dates = (
         gdb.selected_frame().read_var(name) for name in ("samples", "numbers", "shapes", "dates"))
     for i in range(int(gdb.selected_frame().read_var("size"))):
-        expect(samples[i]["value"].format_string(), samples[i]["text"].string())
+        text = samples[i]["text"].string()  # Python writes numbers as the General Decimal Arithmetic does
+        expect(samples[i]["value"].format_string(), str(decimal.Decimal(text)))
     for i in range(1000):
         expect(numbers[i].format_string(), str(i))
     values = ", ".join(str(value) for value in range(5, 1500, 2)[:199])  # the first 200 intervals

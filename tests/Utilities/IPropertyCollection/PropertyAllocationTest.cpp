@@ -22,24 +22,21 @@ TEST(PropertyAllocation, AnAssignmentTakesNoneButForAnotherName)
     assign();
     assign(); // the first assignment makes room to keep what it changes
 
-    struct Row
-    {
-        wchar_t const* name;
-        int needed;
+    Rows<wchar_t const*, int> const rows = {
+        { L"", 0 }, { L"abc", 0 }, { L"a long name", 1 }, { L"a long name", 0 }, { L"", 0 }
     };
-    Row const rows[] = { { L"", 0 }, { L"abc", 0 }, { L"a long name", 1 }, { L"a long name", 0 }, { L"", 0 } };
-    for (Row const& row : rows)
+    for (auto const& [name, needed] : rows)
     {
-        SCOPED_TRACE(row.needed);
-        edited->SetTemplateName(row.name);
-        GetValueProperty<long long>(*edited, 50).SetValue(row.name[0] % 10);
+        SCOPED_TRACE(needed);
+        edited->SetTemplateName(name);
+        GetValueProperty<long long>(*edited, 50).SetValue(name[0] % 10);
         std::wstring const before = factory.GetPropertyCollection(7U).GetTemplateName();
-        if (row.needed != 0)
+        if (needed != 0)
         {
-            EXPECT_FALSE(AllocationLimit::RunsWith(row.needed - 1, assign));
+            EXPECT_FALSE(AllocationLimit::RunsWith(needed - 1, assign));
             EXPECT_EQ(before, factory.GetPropertyCollection(7U).GetTemplateName());
         }
-        EXPECT_TRUE(AllocationLimit::RunsWith(row.needed, assign));
+        EXPECT_TRUE(AllocationLimit::RunsWith(needed, assign));
         EXPECT_TRUE(*edited == factory.GetPropertyCollection(7U));
     }
 }

@@ -186,15 +186,7 @@ TEST(PropertyCollectionCallbacks, EveryDeedFromEveryPlace)
                 };
             else
                 g_hooks[place.name] = once;
-            bool hasThrown = false;
-            try
-            {
-                place.run(scene, once);
-            }
-            catch (std::runtime_error const&)
-            {
-                hasThrown = true;
-            }
+            bool const hasThrown = MessageOf<std::runtime_error>([&] { place.run(scene, once); }) == "refused";
             g_hooks.clear();
             ASSERT_NE(std::string::npos, mark) << "the callback did not come";
             EXPECT_EQ(std::string(deed.name) == "throw", hasThrown);

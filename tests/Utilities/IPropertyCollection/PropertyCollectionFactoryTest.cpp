@@ -48,15 +48,8 @@ TEST(PropertyCollectionFactory, Lookups)
     factory.Obtain(L"", 5);
     EXPECT_TRUE(factory.ExistsTemplate(L""));
     EXPECT_FALSE(factory.ExistsTemplate(L"Standard"));
-    try
-    {
-        factory.GetChangeablePropertyCollectionByIndex(2);
-        ADD_FAILURE();
-    }
-    catch (std::out_of_range const& error)
-    {
-        EXPECT_STREQ("invalid vector subscript", error.what());
-    }
+    EXPECT_EQ("invalid vector subscript",
+              MessageOf<std::out_of_range>([&] { factory.GetChangeablePropertyCollectionByIndex(2); }));
     EXPECT_THROW(factory.GetPropertyCollection(2u), IllegalPropertyCollectionIdException);
     EXPECT_THROW(factory.GetPropertyCollection(L""), EmptyTemplateNameException);
     EXPECT_THROW(factory.GetChangeableTemplatePropertyCollection(L"x"), UnknownTemplateException);

@@ -12,6 +12,7 @@ TEST(PropertyCollectionExceptions, TextsAndValues)
     EXPECT_STREQ("Illegal format id!", IllegalPropertyCollectionIdException(42).what());
     EXPECT_EQ(42u, IllegalPropertyCollectionIdException(42).GetId());
     EXPECT_STREQ("Illegal type! (abc)", IllegalTypeException("abc").what());
+    EXPECT_EQ("abc", IllegalTypeException("abc").GetType());
     EXPECT_STREQ("Illegal value! (\344)", IllegalValueException(L"\u00e4").what());
     EXPECT_EQ(L"\u00e4", IllegalValueException(L"\u00e4").GetValue());
     EXPECT_STREQ("Property collection cannot be modified because it is overridden.",
@@ -100,20 +101,13 @@ TEST(PropertyCollection, AssignmentThatThrowsChangesNothing)
             auto const source = factory.Make(L"new", 100);
 
             int calls = 0;
-            bool hasThrown = false;
             g_hooks[hook] = [&]
             {
                 if (++calls == failing)
                     throw std::runtime_error("refused");
             };
-            try
-            {
-                other.ObtainPropertyCollection(*source, 3);
-            }
-            catch (std::runtime_error const&)
-            {
-                hasThrown = true;
-            }
+            bool const hasThrown =
+                MessageOf<std::runtime_error>([&] { other.ObtainPropertyCollection(*source, 3); }) == "refused";
             g_hooks.clear();
             EXPECT_EQ(hasThrown ? "1:7 3:8 2:9" : "1:100 3:102 2:101 5:103", Values(target));
             EXPECT_EQ(hasThrown ? L"t" : L"new", target.GetTemplateName());

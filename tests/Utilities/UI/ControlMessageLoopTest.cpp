@@ -62,15 +62,8 @@ TEST_F(ControlMessageLoopTest, HandlerComesFirstAndTheControlGetsWhatIsLeft)
     EXPECT_THROW(Loop({}, Answering(1)), Vek::InvalidStateException);
     EXPECT_THROW(Loop(UI::Control(m_window), {}), Vek::ArgumentException);
     EXPECT_EQ(GetProcedure(), m_procedure);
-    try
-    {
-        Loop::MessageLoop(m_window, WM_USER, 0, 0);
-        ADD_FAILURE();
-    }
-    catch (std::out_of_range const& exception)
-    {
-        EXPECT_STREQ(exception.what(), "invalid unordered_map<K, T> key");
-    }
+    EXPECT_EQ("invalid unordered_map<K, T> key",
+              MessageOf<std::out_of_range>([&] { Loop::MessageLoop(m_window, WM_USER, 0, 0); }));
 }
 
 TEST_F(ControlMessageLoopTest, KeepsTheFirstExceptionAndPassesOn)

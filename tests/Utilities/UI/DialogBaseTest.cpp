@@ -88,16 +88,7 @@ TEST(DialogBase, OwnerIsTheForegroundWindowOfThisProcessElseTheActiveOne)
 TEST(DialogBase, FailingTemplatesThrowTheSystemsCode)
 {
     EXPECT_THROW(TestDialog(DIALOG_BROKEN).Show(), Vek::Win32Exception);
-    std::string text;
-    try
-    {
-        TestDialog(DIALOG_MISSING).Show();
-    }
-    catch (Vek::Win32Exception const& exception)
-    {
-        text = exception.what();
-    }
-    EXPECT_EQ(text, "Error code: 1814");
+    EXPECT_EQ("Error code: 1814", MessageOf<Vek::Win32Exception>([] { TestDialog(DIALOG_MISSING).Show(); }));
 }
 
 TEST(DialogBase, ShowOnAnOpenDialogThrowsAndNestedDialogsWork)
