@@ -23,15 +23,21 @@ function(vek_set_up_tests)
     endif()
 endfunction()
 
-# A GoogleTest program. Wine may end a crashed program with exit code 0, so there its last words count.
-function(vek_add_gtest target)
+# What every source of a GoogleTest program begins with.
+function(vek_use_prelude target)
     set(header ${PROJECT_SOURCE_DIR}/tests/Prelude.h)
     get_target_property(precompiled ${target} PRECOMPILE_HEADERS)
     if(precompiled)
         target_precompile_headers(${target} PRIVATE ${header})
     else()
-        target_compile_options(${target} PRIVATE $<IF:$<BOOL:${MSVC}>,/FI${header},-include${header}>)
+        target_compile_options(${target} PRIVATE
+            $<$<COMPILE_LANGUAGE:CXX>:$<IF:$<BOOL:${MSVC}>,/FI${header},-include${header}>>)
     endif()
+endfunction()
+
+# A GoogleTest program. Wine may end a crashed program with exit code 0, so there its last words count.
+function(vek_add_gtest target)
+    vek_use_prelude(${target})
     add_test(NAME ${target} COMMAND ${target})
     vek_set_up_tests(${target})
     if(VEK_TEST_ENVIRONMENT)
@@ -48,6 +54,7 @@ function(vek_add_ui_test target)
         vek_add_gtest(${target})
         return()
     endif()
+    vek_use_prelude(${target})
     find_program(VEK_XVFB_RUN xvfb-run REQUIRED)
     mark_as_advanced(VEK_XVFB_RUN)
     foreach(driver IN LISTS ARGN)

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <sstream>
-#include <stdexcept>
-
 /// Gives a text and then fails as a broken disk would.
 struct BreakingBuffer : std::stringbuf
 {
