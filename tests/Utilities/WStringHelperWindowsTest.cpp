@@ -2,10 +2,6 @@
 
 #include <Utilities/WStringHelper.h>
 
-#include <gtest/gtest.h>
-
-#include <random>
-
 #include <windows.h>
 
 #include <shlwapi.h>
