@@ -1,7 +1,8 @@
-#include <Utilities/Internal/DecimalArithmetic/Arithmetic.h>
-#include <Utilities/Internal/DecimalArithmetic/PackedDigits.h>
+#include <Utilities/Internal/DecimalArithmetic/Addition.h>
 
 #include <Platform/Attributes.h>
+#include <Utilities/Internal/DecimalArithmetic/Arithmetic.h>
+#include <Utilities/Internal/DecimalArithmetic/Reference.h>
 
 #include <algorithm>
 
@@ -11,128 +12,75 @@ namespace Vek::Framework::Utilities::DecimalArithmetic
 namespace
 {
 
-/// A finite number by its digits.
-struct Term
+/// Without `count` digits behind more than 35 of the greater number. What is cut off counts for nothing in a sum; in a
+/// difference it takes one more, and what that leaves over is cut off in its turn.
+VEK_NOINLINE Coefficient Cut(Coefficient lower, int count, bool isDifference) noexcept
 {
-    bool isNegative;
-    int exponent;
-    PackedDigits digits;
-};
-
-Term MakeTerm(Encoding encoding) noexcept
-{
-    return { IsNegative(encoding), GetExponent(encoding), UnpackAllDigits(encoding) };
+    Shifted const shifted = ShiftRight(lower, count);
+    return isDifference && !shifted.dropped.IsZero() ? Add(shifted.value, { 0, 1 }) : shifted.value;
 }
 
 /// The number with the greater exponent is moved left as far as there is room, the other one right for the rest.
-void Align(Term& upper, Term& lower) noexcept
+VEK_INLINE void Align(Finite& upper, Finite& lower) noexcept
 {
-    // What is cut off counts for nothing behind a digit that is rounded off; a difference may lose one digit in front.
-    bool const isDifference = upper.isNegative != lower.isNegative;
-    int const limit = isDifference ? c_precision + 2 : c_precision + 1;
     int const difference = upper.exponent - lower.exponent;
-    if (upper.digits.IsZero())
+    int const left = std::min(difference, 2 * c_limbDigits - CountDigits(upper.coefficient));
+    if (left < difference && !upper.coefficient.IsZero())
     {
-        upper.exponent = lower.exponent;
-        return;
+        lower.coefficient = Cut(lower.coefficient, difference - left, upper.isNegative != lower.isNegative);
+        lower.exponent = upper.exponent - left;
     }
-    int const left = std::min(difference, limit - CountDigits(upper.digits));
-    upper.digits = ShiftLeft(upper.digits, left);
-    upper.exponent -= left;
-    if (left == difference)
-        return;
-    bool isCut = false;
-    lower.digits = ShiftRight(lower.digits, difference - left, isCut);
-    if (isCut && isDifference)
-        lower.digits = Add(lower.digits, { 0, 0, 1 }); // what is left over then is cut off from the result
+    upper.coefficient = ShiftLeft(upper.coefficient, left);
+    upper.exponent = lower.exponent;
 }
 
-/// Of terms with the same exponent.
-Term AddAligned(Term const& a, Term const& b) noexcept
+/// Of numbers with the same exponent.
+VEK_INLINE Finite AddAligned(Finite const& a, Finite const& b) noexcept
 {
     if (a.isNegative == b.isNegative)
-        return { a.isNegative, a.exponent, Add(a.digits, b.digits) };
-    if (a.digits == b.digits)
+        return { a.isNegative, a.exponent, Add(a.coefficient, b.coefficient) };
+    if (a.coefficient == b.coefficient)
         return { false, a.exponent, {} };
-    return a.digits < b.digits ? Term{ b.isNegative, a.exponent, Subtract(b.digits, a.digits) }
-                               : Term{ a.isNegative, a.exponent, Subtract(a.digits, b.digits) };
+    return a.coefficient < b.coefficient ? Finite{ b.isNegative, a.exponent, Subtract(b.coefficient, a.coefficient) }
+                                         : Finite{ a.isNegative, a.exponent, Subtract(a.coefficient, b.coefficient) };
 }
 
-/// Half-up, from up to 36 digits.
-void RoundToPrecision(Term& sum) noexcept
+constexpr std::uint64_t c_upperLimit = GetPowerOfTen(c_precision - c_limbDigits);
+
+/// Half-up, from more than 34 digits.
+VEK_INLINE void Round(Finite& sum) noexcept
 {
-    int const surplus = CountDigits(sum.digits) - c_precision;
-    if (surplus <= 0)
-        return;
-    auto const dropped = static_cast<unsigned>(sum.digits.low >> (4 * (surplus - 1))) & 0xFU;
-    bool isCut = false;
-    sum.digits = ShiftRight(sum.digits, surplus, isCut);
+    int const surplus = CountDigits(sum.coefficient.high) - (c_precision - c_limbDigits);
     sum.exponent += surplus;
-    if (dropped < 5)
-        return;
-    sum.digits = Add(sum.digits, { 0, 0, 1 });
-    if (CountDigits(sum.digits) > c_precision) // 10^34
+    sum.coefficient = ShiftRightHalfUp(sum.coefficient, surplus);
+    if (sum.coefficient.high >= c_upperLimit) [[unlikely]] // 10^34
     {
-        sum.digits = ShiftRight(sum.digits, 1, isCut);
+        sum.coefficient = { c_upperLimit / 10, 0 };
         ++sum.exponent;
     }
 }
 
-VEK_NOINLINE Encoding AddLarge(Encoding a, Encoding b) noexcept
+} // namespace
+
+Encoding AddLarge(Encoding a, Encoding b) noexcept
 {
     if (!IsFinite(a) || !IsFinite(b))
         return Reference::Add(a, b);
-    Term left = MakeTerm(a);
-    Term right = MakeTerm(b);
+    Finite left = Unpack(a);
+    Finite right = Unpack(b);
     if (left.exponent > right.exponent)
         Align(left, right);
     else if (left.exponent < right.exponent)
         Align(right, left);
-    Term sum = AddAligned(left, right);
-    sum.exponent = std::max(left.exponent, right.exponent);
-    RoundToPrecision(sum);
-    return IsPlainExponent(sum.exponent) ? PackAllDigits(sum.isNegative, sum.exponent, sum.digits)
-                                         : Reference::Add(a, b);
+    Finite sum = AddAligned(left, right);
+    if (sum.coefficient.high >= c_upperLimit)
+        Round(sum);
+    return IsPlainExponent(sum.exponent) ? Pack(sum) : Reference::Add(a, b);
 }
 
-/// A word of digits and perhaps a sixteenth one, which as a declet is itself.
-std::uint64_t PackSum(std::uint64_t digits) noexcept
+Encoding SubtractLarge(Encoding a, Encoding b) noexcept
 {
-    return PackDigits(digits) | (digits >> c_wordBits) << c_packedBits;
-}
-
-/// Both of up to fifteen digits.
-Encoding AddSmall(Encoding a, Encoding b) noexcept
-{
-    std::uint64_t left = UnpackDigits(a.low);
-    std::uint64_t right = UnpackDigits(b.low);
-    std::uint64_t high = a.high & ~c_signBit;
-    if (int const difference = GetSmallExponent(a) - GetSmallExponent(b); difference != 0) [[unlikely]]
-    {
-        if (!(difference > 0 ? ShiftWordLeft(left, difference) : ShiftWordLeft(right, -difference)))
-            return AddLarge(a, b);
-        high = difference > 0 ? b.high & ~c_signBit : high;
-    }
-    if (IsNegative(a) == IsNegative(b))
-        return { PackSum(AddDigits(left, right)), high | (a.high & c_signBit) };
-    if (left == right)
-        return { 0, high };
-    return left > right ? Encoding{ PackDigits(SubtractDigits(left, right).digits), high | (a.high & c_signBit) }
-                        : Encoding{ PackDigits(SubtractDigits(right, left).digits), high | (b.high & c_signBit) };
-}
-
-} // namespace
-
-Encoding Add(Encoding a, Encoding b) noexcept
-{
-    return AreSmall<c_packedBits>(a, b) ? AddSmall(a, b) : AddLarge(a, b);
-}
-
-Encoding Subtract(Encoding a, Encoding b) noexcept
-{
-    if (AreSmall<c_packedBits>(a, b))
-        return AddSmall(a, Negate(b));
-    return IsFinite(a) && IsFinite(b) ? AddLarge(a, Negate(b)) : Reference::Subtract(a, b);
+    return IsFinite(b) ? AddLarge(a, Negate(b)) : Reference::Subtract(a, b);
 }
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic

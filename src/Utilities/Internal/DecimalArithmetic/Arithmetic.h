@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Utilities/Internal/DecimalArithmetic/Encoding.h>
+#include <Utilities/Internal/DecimalArithmetic/Addition.h>
 #include <Utilities/Internal/DecimalArithmetic/Reference.h>
 
 /// The operations of Decimal on encodings. Each has a quick way for finite numbers and plain exponents, and answers
@@ -8,8 +8,6 @@
 namespace Vek::Framework::Utilities::DecimalArithmetic
 {
 
-Encoding Add(Encoding a, Encoding b) noexcept;
-Encoding Subtract(Encoding a, Encoding b) noexcept;
 Encoding Multiply(Encoding a, Encoding b) noexcept;
 Encoding Divide(Encoding a, Encoding b) noexcept;
 Encoding Minus(Encoding a) noexcept;

@@ -48,6 +48,13 @@ inline Coefficient Add(Coefficient const& a, Coefficient const& b) noexcept
     return { a.high + b.high + (carries ? 1U : 0U), carries ? low - c_limbBase : low };
 }
 
+/// a must not be less than b.
+inline Coefficient Subtract(Coefficient const& a, Coefficient const& b) noexcept
+{
+    bool const borrows = a.low < b.low;
+    return { a.high - b.high - (borrows ? 1U : 0U), a.low - b.low + (borrows ? c_limbBase : 0) };
+}
+
 /// value * 10^count. The result must have no more than 36 digits; zero stays zero with any count.
 inline Coefficient ShiftLeft(Coefficient value, int count) noexcept
 {

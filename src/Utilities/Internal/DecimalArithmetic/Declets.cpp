@@ -68,6 +68,12 @@ constinit std::array<std::uint16_t, 1024> const c_valuesOfDeclets = Fill<std::ar
     1024,
     [](auto& table, unsigned declet) { table[declet] = static_cast<std::uint16_t>(GetValue(DecodeDeclet(declet))); });
 
+constinit std::array<std::uint32_t, 1024> const c_thousandsOfDeclets = Fill<std::array<std::uint32_t, 1024>>(
+    1024, [](auto& table, unsigned declet) { table[declet] = 1000 * GetValue(DecodeDeclet(declet)); });
+
+constinit std::array<std::uint32_t, 1024> const c_millionsOfDeclets = Fill<std::array<std::uint32_t, 1024>>(
+    1024, [](auto& table, unsigned declet) { table[declet] = 1'000'000 * GetValue(DecodeDeclet(declet)); });
+
 constinit std::array<std::uint16_t, 1000> const c_declets = Fill<std::array<std::uint16_t, 1000>>(
     1024,
     [](auto& table, unsigned declet) { table[GetValue(DecodeDeclet(declet))] = static_cast<std::uint16_t>(declet); });

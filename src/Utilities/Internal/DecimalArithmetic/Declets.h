@@ -12,6 +12,9 @@ namespace Vek::Framework::Utilities::DecimalArithmetic
 
 /// 0 to 999 for every declet.
 extern std::array<std::uint16_t, 1024> const c_valuesOfDeclets;
+/// The same times 1000 and 1,000,000.
+extern std::array<std::uint32_t, 1024> const c_thousandsOfDeclets;
+extern std::array<std::uint32_t, 1024> const c_millionsOfDeclets;
 /// The canonical declet of 0 to 999.
 extern std::array<std::uint16_t, 1000> const c_declets;
 

@@ -3,7 +3,9 @@
 #include <Utilities/Decimal.h>
 #include <Utilities/Internal/DecimalArithmetic/Coefficient.h>
 
+#include <array>
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 
 namespace Vek::Framework::Utilities::DecimalArithmetic
@@ -90,19 +92,8 @@ struct Finite
 /// Three declets as nine digits.
 inline std::uint64_t UnpackNine(std::uint64_t declets) noexcept
 {
-    return (std::uint64_t{ c_valuesOfDeclets[GetDeclet(declets, 2)] } * 1000 +
-            c_valuesOfDeclets[GetDeclet(declets, 1)]) *
-               1000 +
+    return c_millionsOfDeclets[GetDeclet(declets, 2)] + c_thousandsOfDeclets[GetDeclet(declets, 1)] +
            c_valuesOfDeclets[GetDeclet(declets, 0)];
-}
-
-/// Nine digits as three declets. 32 bits are enough and divide faster.
-inline std::uint64_t PackNine(std::uint32_t value) noexcept
-{
-    std::uint32_t const thousands = value / 1000;
-    std::uint32_t const millions = thousands / 1000;
-    return std::uint64_t{ c_declets[millions] } << 20U |
-           std::uint64_t{ c_declets[thousands - millions * 1000] } << 10U | c_declets[value - thousands * 1000];
 }
 
 /// Six declets as up to eighteen digits.
@@ -114,29 +105,59 @@ inline std::uint64_t UnpackLimb(std::uint64_t declets) noexcept
 /// Up to eighteen digits as six declets.
 inline std::uint64_t PackLimb(std::uint64_t value) noexcept
 {
-    std::uint64_t const high = value / c_billion;
-    return PackNine(static_cast<std::uint32_t>(high)) << 30U |
-           PackNine(static_cast<std::uint32_t>(value - high * c_billion));
+    // Divided by 10^15; then the fraction, in 64 bits, times 1000 for the next digits. The factor is 2^113 / 10^15,
+    // rounded up, and so is the fraction: what that adds comes to less than a unit of the last digit.
+    constexpr unsigned shift = 49;
+    constexpr std::uint64_t factor = 0x901D7CF73AB0ACDA;
+    Platform::UInt128 const product = Platform::Multiply(value, factor);
+    std::uint64_t declets = c_declets[static_cast<std::size_t>(product.high >> shift)];
+    std::uint64_t fraction = (product.high << (64U - shift) | product.low >> shift) + 1;
+    for (int i = 0; i < 5; ++i)
+    {
+        Platform::UInt128 const next = Platform::Multiply(fraction, 1000);
+        declets = declets << 10U | c_declets[static_cast<std::size_t>(next.high)];
+        fraction = next.low;
+    }
+    return declets;
 }
 
-/// Whether the first digit is 8 or 9: then it has one bit, and the exponent's highest bits stand further down.
-constexpr bool HasLargeDigit(Encoding encoding) noexcept
+/// What the five bits below the sign stand for.
+struct Head
 {
-    return (encoding.high >> 61U & 3U) == 3;
+    std::uint16_t firstDigit;
+    std::int16_t exponent; // of its highest bits, without c_bias; above every exponent for an Infinity and a NaN
+};
+
+constexpr auto c_heads = []
+{
+    std::array<Head, 32> heads{};
+    for (unsigned bits = 0; bits < heads.size(); ++bits)
+    {
+        bool const isLarge =
+            bits >= 24; // the digits 8 and 9: then it has one bit, and the exponent's stand further down
+        unsigned const exponent = (isLarge ? bits >> 1U : bits >> 3U) & 3U;
+        heads[bits] = { static_cast<std::uint16_t>(isLarge ? 8 + bits % 2 : bits % 8),
+                        static_cast<std::int16_t>(exponent == 3 ? 0x7000
+                                                                : static_cast<int>(exponent << 12U) - c_bias) };
+    }
+    return heads;
+}();
+
+constexpr Head const& GetHead(Encoding encoding) noexcept
+{
+    return c_heads[static_cast<std::size_t>(encoding.high >> 58U & 31U)];
 }
 
 /// Of a finite number.
 constexpr unsigned GetFirstDigit(Encoding encoding) noexcept
 {
-    auto const bits = static_cast<unsigned>(encoding.high >> 58U & 7U);
-    return HasLargeDigit(encoding) ? 8U | (bits & 1U) : bits;
+    return GetHead(encoding).firstDigit;
 }
 
-/// Of a finite number.
+/// Of a finite number; far above c_greatestPlainExponent for another.
 constexpr int GetExponent(Encoding encoding) noexcept
 {
-    auto const top = static_cast<int>(encoding.high >> (HasLargeDigit(encoding) ? 59U : 61U) & 3U);
-    return (top << 12 | static_cast<int>(encoding.high >> c_exponentShift & 0xFFFU)) - c_bias;
+    return GetHead(encoding).exponent + static_cast<int>(encoding.high >> c_exponentShift & 0xFFFU);
 }
 
 /// The five upper declets, which lie across both words.
@@ -174,14 +195,25 @@ inline Finite Unpack(Encoding encoding) noexcept
     return { IsNegative(encoding), GetExponent(encoding), coefficient };
 }
 
+/// c_heads the other way: for each of the exponent's three highest values sixteen digits, the last six of them none.
+constexpr auto c_headBits = []
+{
+    std::array<std::uint8_t, 48> bits{};
+    for (unsigned i = 0; i < bits.size(); ++i)
+    {
+        unsigned const exponent = i >> 4U;
+        unsigned const digit = i & 15U;
+        bits[i] = static_cast<std::uint8_t>(digit < 8 ? exponent << 3U | digit : 24U | exponent << 1U | (digit & 1U));
+    }
+    return bits;
+}();
+
 /// All but the declets.
 constexpr std::uint64_t PackHead(bool isNegative, int exponent, std::uint64_t firstDigit) noexcept
 {
-    std::uint64_t const biased = static_cast<std::uint64_t>(exponent + c_bias);
-    std::uint64_t const combined = firstDigit < 8
-                                       ? (biased >> 12U) << 61U | firstDigit << 58U
-                                       : std::uint64_t{ 3 } << 61U | (biased >> 12U) << 59U | (firstDigit & 1U) << 58U;
-    return (isNegative ? c_signBit : 0) | combined | (biased & 0xFFFU) << c_exponentShift;
+    auto const biased = static_cast<std::uint64_t>(exponent + c_bias);
+    std::uint64_t const bits = c_headBits[static_cast<std::size_t>(biased >> 12U << 4U | firstDigit)];
+    return (isNegative ? c_signBit : 0) | bits << 58U | (biased & 0xFFFU) << c_exponentShift;
 }
 
 /// The exponent from c_leastPlainExponent - 33 to c_greatestPlainExponent, the coefficient of up to 34 digits.

@@ -38,6 +38,12 @@ inline std::uint64_t PackDigits(std::uint64_t digits) noexcept
 constexpr std::uint64_t c_sixes = 0x0666'6666'6666'6666;
 constexpr std::uint64_t c_carries = 0x1111'1111'1111'1110; // the lowest bit of every digit but the first
 
+/// Six in every digit whose carry is set.
+constexpr std::uint64_t GetSixes(std::uint64_t carries) noexcept
+{
+    return (carries >> 3U) * 3;
+}
+
 /// Of fifteen digits and a carry into the first; the sixteenth digit of the sum is the carry out. Sixes make every
 /// digit that reaches ten carry; those that did not are taken back.
 constexpr std::uint64_t AddDigits(std::uint64_t a, std::uint64_t b, std::uint64_t carry = 0) noexcept
@@ -45,7 +51,7 @@ constexpr std::uint64_t AddDigits(std::uint64_t a, std::uint64_t b, std::uint64_
     std::uint64_t const raised = a + c_sixes;
     std::uint64_t const sum = raised + b + carry;
     std::uint64_t const withoutCarry = ~(sum ^ raised ^ b) & c_carries;
-    return sum - (withoutCarry >> 2U | withoutCarry >> 3U);
+    return sum - GetSixes(withoutCarry);
 }
 
 struct DigitDifference
@@ -59,7 +65,7 @@ constexpr DigitDifference SubtractDigits(std::uint64_t a, std::uint64_t b, std::
 {
     std::uint64_t const difference = a - b - borrow;
     std::uint64_t const borrowed = (difference ^ a ^ b) & c_carries;
-    return { (difference - (borrowed >> 2U | borrowed >> 3U)) & c_wordMask, borrowed >> c_wordBits };
+    return { (difference - GetSixes(borrowed)) & c_wordMask, borrowed >> c_wordBits };
 }
 
 /// Fifteen digits; false, with nothing changed, if they have no room for `count` zeros.
@@ -95,14 +101,6 @@ constexpr PackedDigits Add(PackedDigits const& a, PackedDigits const& b) noexcep
     std::uint64_t const low = AddDigits(a.low, b.low);
     std::uint64_t const middle = AddDigits(a.middle, b.middle, low >> c_wordBits);
     return { AddDigits(a.high, b.high, middle >> c_wordBits), middle & c_wordMask, low & c_wordMask };
-}
-
-/// a must not be less than b.
-constexpr PackedDigits Subtract(PackedDigits const& a, PackedDigits const& b) noexcept
-{
-    DigitDifference const low = SubtractDigits(a.low, b.low);
-    DigitDifference const middle = SubtractDigits(a.middle, b.middle, low.borrow);
-    return { SubtractDigits(a.high, b.high, middle.borrow).digits, middle.digits, low.digits };
 }
 
 /// By any number of digits that leaves room for those of `value`.
