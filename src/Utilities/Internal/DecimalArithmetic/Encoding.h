@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Platform/WordPair.h>
 #include <Utilities/Decimal.h>
 #include <Utilities/Internal/DecimalArithmetic/Coefficient.h>
 
@@ -40,7 +41,7 @@ inline Encoding ToEncoding(Decimal const& value) noexcept
 
 inline Decimal ToDecimal(Encoding encoding) noexcept
 {
-    return std::bit_cast<Decimal>(encoding);
+    return Platform::JoinWords<Decimal>(encoding.low, encoding.high);
 }
 
 constexpr bool IsNegative(Encoding encoding) noexcept
