@@ -56,18 +56,22 @@ inline void StoreWidened(wchar_t* units, __m128i bytes) noexcept
     StoreUnits(units + 8, _mm_unpackhi_epi8(bytes, _mm_setzero_si128()));
 }
 
+/// Compilers make one instruction of it.
+constexpr std::uint64_t ReverseBytes(std::uint64_t value) noexcept
+{
+    value = (value & 0x00FF'00FF'00FF'00FF) << 8U | (value >> 8U & 0x00FF'00FF'00FF'00FF);
+    value = (value & 0x0000'FFFF'0000'FFFF) << 16U | (value >> 16U & 0x0000'FFFF'0000'FFFF);
+    return value << 32U | value >> 32U;
+}
+
 /// Writes sixteen digits of four bits each, the highest first, as characters.
 inline void StoreDigits(wchar_t* units, std::uint64_t digits) noexcept
 {
-    __m128i const packed = _mm_cvtsi64_si128(static_cast<long long>(digits)); // the last two digits in the first byte
+    __m128i const packed = _mm_cvtsi64_si128(static_cast<long long>(ReverseBytes(digits)));
     __m128i const nibble = _mm_set1_epi8(0x0F);
     __m128i const lower = _mm_and_si128(packed, nibble);
     __m128i const upper = _mm_and_si128(_mm_srli_epi64(packed, 4), nibble);
-    __m128i const pairs = _mm_unpacklo_epi8(upper, lower); // two digits a lane, the last lane first
-    __m128i const halves = _mm_shuffle_epi32(pairs, _MM_SHUFFLE(0, 1, 2, 3));
-    __m128i const ordered =
-        _mm_shufflehi_epi16(_mm_shufflelo_epi16(halves, _MM_SHUFFLE(2, 3, 0, 1)), _MM_SHUFFLE(2, 3, 0, 1));
-    StoreWidened(units, _mm_or_si128(ordered, _mm_set1_epi8('0')));
+    StoreWidened(units, _mm_or_si128(_mm_unpacklo_epi8(upper, lower), _mm_set1_epi8('0')));
 }
 
 /// One bit for each of sixteen bytes: set where the byte's highest bit is.

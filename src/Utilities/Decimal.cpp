@@ -219,9 +219,7 @@ Decimal Decimal::FromString(std::wstring const& text, CodePoint const& separator
 
 std::wstring Decimal::ToString(CodePoint const& separator, Nullable<CodePoint> const& grouping) const
 {
-    std::wstring text;
-    AppendToString(text, separator, grouping);
-    return text;
+    return MakeText(ToEncoding(*this), separator, grouping);
 }
 
 void Decimal::AppendToString(std::wstring& target, CodePoint const& separator,

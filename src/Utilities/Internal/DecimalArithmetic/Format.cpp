@@ -4,6 +4,7 @@
 #include <Utilities/Internal/DecimalArithmetic/PackedDigits.h>
 
 #include <algorithm>
+#include <array>
 #include <bit>
 
 namespace Vek::Framework::Utilities::DecimalArithmetic
@@ -86,44 +87,173 @@ void AppendFinite(std::wstring& target, Encoding value, CodePoint const& separat
                   static_cast<std::size_t>(digits.GetCount() - std::max(0, whole)));
 }
 
-/// Up to fifteen digits, at least one of them before the separator: nearly every amount. False for any other.
-bool AppendPlain(std::wstring& target, Encoding value, CodePoint const& separator)
+/// Up to fifteen digits, with the zeros before and behind the separator: nearly every amount.
+constexpr bool IsShort(Encoding value) noexcept
 {
-    if (!IsSmall<c_packedBits>(value) || !separator.IsSingleCodeUnit())
+    if (!IsSmall<c_packedBits>(value))
         return false;
+    int const exponent = GetSmallExponent(value);
+    return exponent <= 0 && exponent > -c_wordDigits;
+}
+
+/// A sign, and sixteen units in one go.
+constexpr std::size_t c_shortRoom = 1 + 16;
+
+/// Into c_shortRoom units; answers how many of them are the text.
+std::size_t WriteShort(wchar_t* target, Encoding value, wchar_t separator) noexcept
+{
     std::uint64_t const digits = UnpackDigits(value.low);
-    int const count = std::max(1, (static_cast<int>(std::bit_width(digits)) + 3) / 4);
     int const fraction = -GetSmallExponent(value);
-    if (fraction < 0 || fraction >= count)
+    int const count = std::max(fraction + 1, (static_cast<int>(std::bit_width(digits | 1U)) + 3) / 4);
+    // Sixteen digits of four bits, the first one on top, with a gap before the fraction.
+    std::uint64_t const whole = digits & ~std::uint64_t{ 0 } << 4 * fraction;
+    std::uint64_t const spread = digits + whole * 15;
+    unsigned const sign = IsNegative(value) && digits != 0 ? 1 : 0;
+    target[0] = L'-';
+    target += sign;
+    Platform::StoreDigits(target, spread << 4 * (c_wordDigits - count));
+    target[count - fraction] = separator;
+    return sign + static_cast<unsigned>(count + (fraction != 0 ? 1 : 0));
+}
+
+/// Digits of four bits, sixteen to a word, the first one on top.
+using DigitBlocks = std::array<std::uint64_t, 3>;
+
+/// More digits, and how they are to be written.
+struct LongText
+{
+    DigitBlocks blocks; // the separator's place included
+    bool isNegative;
+    int whole; // digits before the separator
+    int size;  // without the sign, 16 to 47
+};
+
+/// By up to fifteen digits.
+constexpr std::uint64_t JoinShifted(std::uint64_t first, std::uint64_t second, int digits) noexcept
+{
+    return first << 4 * digits | second >> 4 >> (60 - 4 * digits);
+}
+
+/// The first `count` of sixteen digits, up to all of them and down to none.
+constexpr std::uint64_t MaskFirst(int count) noexcept
+{
+    return count <= 0 ? 0 : count >= 16 ? ~std::uint64_t{ 0 } : ~(~std::uint64_t{ 0 } >> 4 * count);
+}
+
+LongText MakeLongText(Encoding value) noexcept
+{
+    PackedDigits const digits = UnpackAllDigits(value);
+    int const fraction = -GetExponent(value);
+    int const count = std::max(fraction + 1, CountDigits(digits));
+    int const whole = count - fraction;
+    DigitBlocks all{ digits.high, digits.middle << 4U | digits.low >> 56U, digits.low << 8U }; // the last two are none
+    int zeros = 46 - count;
+    for (; zeros >= 16; zeros -= 16)
+        all = { all[1], all[2], 0 };
+    all = { JoinShifted(all[0], all[1], zeros), JoinShifted(all[1], all[2], zeros), all[2] << 4 * zeros };
+    DigitBlocks const moved{ all[0] >> 4U, all[0] << 60U | all[1] >> 4U, all[1] << 60U | all[2] >> 4U };
+    for (std::size_t i = 0; i < all.size(); ++i)
+    {
+        std::uint64_t const mask = MaskFirst(whole - 16 * static_cast<int>(i));
+        all[i] = (all[i] & mask) | (moved[i] & ~mask);
+    }
+    return { all, IsNegative(value) && !digits.IsZero(), whole, fraction == 0 ? count : count + 1 };
+}
+
+/// In place, the last sixteen units over those before.
+void WriteLong(wchar_t* target, LongText const& text, wchar_t separator) noexcept
+{
+    DigitBlocks const& blocks = text.blocks;
+    *target = L'-';
+    target += text.isNegative ? 1 : 0;
+    Platform::StoreDigits(target, blocks[0]);
+    if (text.size >= 32)
+    {
+        Platform::StoreDigits(target + 16, blocks[1]);
+        Platform::StoreDigits(target + text.size - 16, JoinShifted(blocks[1], blocks[2], text.size - 32));
+    }
+    else
+        Platform::StoreDigits(target + text.size - 16, JoinShifted(blocks[0], blocks[1], text.size - 16));
+    if (text.whole != text.size)
+        target[text.whole] = separator;
+}
+
+/// Up to 46 digits, with the zeros before and behind the separator, and at least sixteen units.
+constexpr int c_longDigits = 46;
+
+bool IsLong(Encoding value) noexcept
+{
+    int const exponent = GetExponent(value); // far above 0 for an Infinity or NaN
+    if (exponent > 0 || exponent <= -c_longDigits)
         return false;
+    return exponent <= -c_wordDigits || CountDigits(value) >= 16;
+}
 
-    // Sixteen digits of four bits, the first one on top, with a gap for the separator.
-    unsigned const fractionBits = 4U * static_cast<unsigned>(fraction);
-    std::uint64_t const upper = digits >> fractionBits << fractionBits;
-    std::uint64_t const spread = fraction == 0 ? digits : upper << 4U | (digits ^ upper);
-    int const size = fraction == 0 ? count : count + 1;
-    std::uint64_t const aligned = spread << (4U * static_cast<unsigned>(16 - size));
+/// More units at the end. They are to be written over; a copy of constants is the quickest way to make them.
+wchar_t* Grow(std::wstring& target, std::size_t count)
+{
+    static constexpr wchar_t filler[1 + 16 * 3]{};
+    std::size_t const size = target.size();
+    target.append(filler, count);
+    return target.data() + size;
+}
 
-    wchar_t text[1 + 16];
-    text[0] = L'-';
-    Platform::StoreDigits(text + 1, aligned);
-    if (fraction != 0)
-        text[1 + count - fraction] = *separator.begin();
-    bool const isNegative = IsNegative(value) && digits != 0;
-    target.append(isNegative ? text : text + 1, static_cast<std::size_t>(isNegative ? size + 1 : size));
-    return true;
+void AppendShort(std::wstring& target, Encoding value, wchar_t separator)
+{
+    std::size_t const size = target.size();
+    if (target.capacity() - size < c_shortRoom)
+    {
+        wchar_t text[c_shortRoom];
+        target.append(text, WriteShort(text, value, separator));
+        return;
+    }
+    wchar_t* const end = Grow(target, c_shortRoom);
+    target.resize(size + WriteShort(end, value, separator));
+}
+
+void AppendLong(std::wstring& target, Encoding value, wchar_t separator)
+{
+    LongText const text = MakeLongText(value);
+    WriteLong(Grow(target, static_cast<std::size_t>(text.size + (text.isNegative ? 1 : 0))), text, separator);
+}
+
+void AppendOther(std::wstring& target, Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping)
+{
+    if (IsFinite(value))
+        AppendFinite(target, value, separator, grouping);
+    else
+        AppendSpecial(target, value);
+}
+
+bool IsPlain(CodePoint const& separator, Nullable<CodePoint> const& grouping) noexcept
+{
+    return separator.IsSingleCodeUnit() && !grouping.HasValue();
 }
 
 } // namespace
 
 void AppendText(std::wstring& target, Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping)
 {
-    if (!grouping.HasValue() && AppendPlain(target, value, separator))
-        return;
-    if (IsFinite(value))
-        AppendFinite(target, value, separator, grouping);
+    if (!IsPlain(separator, grouping))
+        AppendOther(target, value, separator, grouping);
+    else if (IsShort(value))
+        AppendShort(target, value, *separator.begin());
+    else if (IsLong(value))
+        AppendLong(target, value, *separator.begin());
     else
-        AppendSpecial(target, value);
+        AppendOther(target, value, separator, grouping);
+}
+
+std::wstring MakeText(Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping)
+{
+    if (IsPlain(separator, grouping) && IsShort(value))
+    {
+        wchar_t text[c_shortRoom];
+        return std::wstring(text, WriteShort(text, value, *separator.begin()));
+    }
+    std::wstring text;
+    AppendText(text, value, separator, grouping);
+    return text;
 }
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic

@@ -21,7 +21,8 @@ struct ParsedNumber
 /// Reads as Decimal::FromString describes, in one pass.
 ParsedNumber Parse(std::wstring_view text, wchar_t separator) noexcept;
 
-/// Writes as Decimal::AppendToString describes.
+/// Writes as Decimal::AppendToString describes. Nothing is allocated but by the string, and once.
 void AppendText(std::wstring& target, Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping);
+std::wstring MakeText(Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping);
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic
