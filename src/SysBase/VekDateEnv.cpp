@@ -2,6 +2,9 @@
 
 #include <SysBase/Internal/BusinessDays.h>
 
+#include <array>
+#include <cstddef>
+
 namespace VekSysBase
 {
 
@@ -25,13 +28,27 @@ VekDateEx GetNext(FreeDays kind, VekDateEx const& date, unsigned int days)
     return GetDate(FindOutside(kind, Add(first, days + freeDays), 1));
 }
 
-} // namespace
-
-VekDateEx VekDateEnv::GetOstersonntag(unsigned int year) const noexcept
+constexpr VekDateEx ComputeOstersonntag(unsigned int year)
 {
     int const day = 22 + static_cast<int>(GetEaster(year)); // of March, running on into April
     auto const storedYear = static_cast<int>(year & 0xFFFF);
     return day <= 31 ? VekDateEx(day, 3, storedYear) : VekDateEx(day - 31, 4, storedYear);
+}
+
+constexpr auto c_ostersonntage = []
+{
+    std::array<VekDateEx, c_knownYears> dates{};
+    for (std::size_t i = 0; i < dates.size(); ++i)
+        dates[i] = ComputeOstersonntag(static_cast<unsigned int>(c_firstKnownYear + i));
+    return dates;
+}();
+
+} // namespace
+
+VekDateEx VekDateEnv::GetOstersonntag(unsigned int year) const noexcept
+{
+    std::size_t const known = year - static_cast<unsigned int>(c_firstKnownYear);
+    return known < c_knownYears ? c_ostersonntage[known] : ComputeOstersonntag(year);
 }
 
 bool VekDateEnv::IsFeiertag(VekDateEx const& date) const noexcept

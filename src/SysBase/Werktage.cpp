@@ -17,12 +17,6 @@ bool IsOutside(FreeDays kind, VekDateEx const& date)
     return TryGetYearDay(date, day) && !Contains(kind, day);
 }
 
-VekDateEx AddOutside(FreeDays kind, VekDateEx const& date, int number)
-{
-    YearDay day;
-    return TryGetYearDay(date, day) ? GetDate(AddOutside(kind, day, number)) : VekDateEx();
-}
-
 VekDateEx FindOutside(FreeDays kind, VekDateEx const& date, int direction)
 {
     YearDay day;

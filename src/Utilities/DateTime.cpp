@@ -8,6 +8,7 @@
 #include <Utilities/Internal/TickCalendar.h>
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -49,15 +50,27 @@ std::uint64_t MakeTicks(int year, unsigned month, unsigned day, unsigned hour, u
     return c_ticksPerSecond * (GetSecondsOfDate({ fullYear, month, day }) + ((hour * 60 + minute) * 60 + second));
 }
 
+/// What a day of a year that begins in March adds to that year to make the first eight bytes of components: the year,
+/// month and day of the calendar, and that there is a day of the week.
+constexpr auto c_componentsOfMarchDay = []
+{
+    std::array<std::uint64_t, 366> components{};
+    for (std::uint32_t day = 0; day < components.size(); ++day)
+    {
+        ShortDate const date = GetShortDate(MarchDay{ 0, day });
+        components[day] = date.year | date.month << 16U | 1U << 24U | std::uint64_t{ date.day } << 40U;
+    }
+    return components;
+}();
+
 /// Byte by byte as the class has its fields. Field by field, the result would be stored in single bytes and loaded as a
 /// word right behind them, for which processors wait.
-DateTimeComponentInfo MakeComponents(ShortDate const& date, std::uint32_t dayOfWeek, TimeOfDay const& time) noexcept
+DateTimeComponentInfo MakeComponents(MarchDay const& day, std::uint32_t dayOfWeek, TimeOfDay const& time) noexcept
 {
     static_assert(std::endian::native == std::endian::little && sizeof(DateTimeComponentInfo) == 10 &&
                   std::is_trivially_copyable_v<DateTimeComponentInfo>);
-    constexpr std::uint32_t hasDayOfWeek = 1;
-    std::uint64_t const high = dayOfWeek | date.day << 8U | time.hour << 16U | time.minute << 24U;
-    std::uint64_t const low = date.year | date.month << 16U | hasDayOfWeek << 24U | high << 32U;
+    std::uint64_t const high = dayOfWeek | time.hour << 16U | time.minute << 24U;
+    std::uint64_t const low = (day.year + c_componentsOfMarchDay[day.day]) | high << 32U;
     auto const last = static_cast<std::uint16_t>(time.second);
     DateTimeComponentInfo components;
     auto* const bytes = reinterpret_cast<unsigned char*>(&components);
@@ -169,7 +182,7 @@ DateTimeComponentInfo DateTime::GetComponents() const
     // Two divisions that do not wait for each other.
     auto const day = static_cast<std::uint32_t>(m_ticks / c_ticksPerDay);
     auto const second = static_cast<std::uint32_t>(m_ticks / c_ticksPerSecond - std::uint64_t{ day } * c_secondsPerDay);
-    return MakeComponents(GetDateOfTickDay(day), GetDayOfWeekOfTickDay(day), GetTimeOfDay(second));
+    return MakeComponents(GetMarchDay(day + c_firstShortDay), GetDayOfWeekOfTickDay(day), GetTimeOfDay(second));
 }
 
 int DateTime::CompareTo(DateTime const& other, ComparisonOptions options) const

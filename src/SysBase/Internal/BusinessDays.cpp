@@ -1,5 +1,8 @@
 #include <SysBase/Internal/BusinessDays.h>
 
+#include <array>
+#include <cstddef>
+
 namespace VekSysBase::Internal
 {
 
@@ -11,14 +14,33 @@ YearDay GetYearDay(VekDateEx const& date)
     return Add({ date.GetYear(), 0 }, GetDayOfYear(date.GetDay(), date.GetMonth(), date.GetYear()) - 1);
 }
 
+namespace
+{
+
+struct DayAndMonth
+{
+    std::uint8_t day;
+    std::uint8_t month;
+};
+
+/// The days of common years and of leap years.
+constexpr auto c_datesOfYear = []
+{
+    std::array<std::array<DayAndMonth, 366>, 2> dates{};
+    for (std::size_t leap = 0; leap < 2; ++leap)
+        for (std::uint8_t month = 1; month <= 12; ++month)
+            for (std::size_t i = c_daysBeforeMonth[leap][month - 1]; i < c_daysBeforeMonth[leap][month]; ++i)
+                dates[leap][i] = { static_cast<std::uint8_t>(i - c_daysBeforeMonth[leap][month - 1] + 1), month };
+    return dates;
+}();
+
+} // namespace
+
 VekDateEx GetDate(YearDay day)
 {
-    // Months begin in March, so that the leap day comes last.
-    int const februaryEnd = Civil::IsLeapYear(day.year) ? 60 : 59;
-    int const marchDay = day.index < februaryEnd ? day.index + 306 : day.index - februaryEnd; // [0, 365]
-    int const marchMonth = (5 * marchDay + 2) / 153;                                          // [0, 11]
-    return VekDateEx(marchDay - (153 * marchMonth + 2) / 5 + 1, marchMonth + (marchMonth < 10 ? 3 : -9),
-                     static_cast<int>(day.year & 0xFFFF));
+    auto const& dates = c_datesOfYear[Civil::IsLeapYear(day.year) ? 1 : 0];
+    DayAndMonth const date = dates[static_cast<std::size_t>(day.index)];
+    return VekDateEx(date.day, date.month, static_cast<int>(day.year & 0xFFFF));
 }
 
 YearDay Add(YearDay day, long long days)
@@ -55,20 +77,8 @@ long long Count(FreeDays kind, YearDay first, long long days)
     return count + set.CountBefore(first.index + static_cast<int>(days)) - set.CountBefore(first.index);
 }
 
-YearDay FindOutside(FreeDays kind, YearDay day, int direction)
-{
-    while (Contains(kind, day))
-        day = Add(day, direction);
-    return day;
-}
-
 namespace
 {
-
-int CountOutside(DaySet const& set, int from, int to)
-{
-    return to - from - (set.CountBefore(to) - set.CountBefore(from));
-}
 
 YearDay AddAfter(FreeDays kind, YearDay day, long long number)
 {
@@ -76,20 +86,11 @@ YearDay AddAfter(FreeDays kind, YearDay day, long long number)
     {
         BusinessYear const& year = GetBusinessYear(day.year);
         DaySet const& set = year.Get(kind);
-        int const left = CountOutside(set, day.index + 1, year.length);
-        if (number > left)
-        {
-            number -= left;
-            continue;
-        }
-        // As many days on as are wanted, then as many as were in the set, until none was.
-        for (int days = static_cast<int>(number); days > 0;)
-        {
-            int const before = set.CountBefore(day.index + 1);
-            day.index += days;
-            days = set.CountBefore(day.index + 1) - before;
-        }
-        return day;
+        int const before = set.CountOutsideBefore(day.index + 1);
+        int const left = set.CountOutsideBefore(year.length) - before;
+        if (number <= left)
+            return { day.year, set.GetOutside(before + static_cast<int>(number) - 1) };
+        number -= left;
     }
 }
 
@@ -99,27 +100,29 @@ YearDay AddBefore(FreeDays kind, YearDay day, long long number)
     for (;; day = { day.year - 1, GetBusinessYear(day.year - 1).length })
     {
         DaySet const& set = GetBusinessYear(day.year).Get(kind);
-        int const left = CountOutside(set, 0, day.index);
-        if (number > left)
-        {
-            number -= left;
-            continue;
-        }
-        for (int days = static_cast<int>(number); days > 0;)
-        {
-            int const before = set.CountBefore(day.index);
-            day.index -= days;
-            days = before - set.CountBefore(day.index);
-        }
-        return day;
+        int const left = set.CountOutsideBefore(day.index);
+        if (number <= left)
+            return { day.year, set.GetOutside(left - static_cast<int>(number)) };
+        number -= left;
     }
 }
 
 } // namespace
 
-YearDay AddOutside(FreeDays kind, YearDay day, long long number)
+YearDay FindOutside(FreeDays kind, YearDay day, int direction)
 {
-    return number < 0 ? AddBefore(kind, day, -number) : AddAfter(kind, day, number);
+    return direction > 0 ? AddAfter(kind, { day.year, day.index - 1 }, 1)
+                         : AddBefore(kind, { day.year, day.index + 1 }, 1);
+}
+
+VekDateEx AddOutside(FreeDays kind, VekDateEx const& date, int number)
+{
+    YearDay day;
+    if (!TryGetYearDay(date, day))
+        return VekDateEx();
+    if (number == 0)
+        return date;
+    return GetDate(number < 0 ? AddBefore(kind, day, -static_cast<long long>(number)) : AddAfter(kind, day, number));
 }
 
 } // namespace VekSysBase::Internal

@@ -53,7 +53,8 @@ long long Count(FreeDays kind, YearDay first, long long days);
 /// The day itself, or the nearest one in the direction (1 or -1) that is not in the set.
 YearDay FindOutside(FreeDays kind, YearDay day, int direction);
 
-/// The n-th day outside the set, after `day` or, for a negative number, before it; `day` itself for 0.
-YearDay AddOutside(FreeDays kind, YearDay day, long long number);
+/// The n-th day outside the set, after `date` or, for a negative number, before it; `date` itself for 0. Of an invalid
+/// date the zero date.
+VekDateEx AddOutside(FreeDays kind, VekDateEx const& date, int number);
 
 } // namespace VekSysBase::Internal

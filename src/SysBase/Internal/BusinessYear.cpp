@@ -93,4 +93,9 @@ constexpr std::array<BusinessYear, sizeof...(Indices)> Collect(std::index_sequen
 constexpr std::array<BusinessYear, 2 * c_easterDays> c_businessYears =
     Collect(std::make_index_sequence<2 * c_easterDays>());
 
+BusinessYear const& GetDistantBusinessYear(long long year)
+{
+    return c_businessYears[GetBusinessYearIndex(year)];
+}
+
 } // namespace VekSysBase::Internal

@@ -1,10 +1,6 @@
 // The date of Easter Sunday, on which the movable holidays hang.
 #pragma once
 
-#include <array>
-#include <cstddef>
-#include <cstdint>
-
 namespace VekSysBase::Internal
 {
 
@@ -12,7 +8,7 @@ namespace VekSysBase::Internal
 constexpr int c_easterDays = 35;
 
 /// Days from 22 March to Easter Sunday, [0, 34]; any year.
-constexpr unsigned int ComputeEaster(unsigned int year)
+constexpr unsigned int GetEaster(unsigned int year)
 {
     // Gauss's rule for the Gregorian calendar; every division truncates.
     unsigned int const century = year / 100;
@@ -24,24 +20,6 @@ constexpr unsigned int ComputeEaster(unsigned int year)
     // 26 April never stands, 25 April not when the 19 years already have that full moon.
     bool const isTooLate = d + e == 35 || (d + e == 34 && d == 28 && lunar > 10);
     return isTooLate ? d + e - 7 : d + e;
-}
-
-constexpr unsigned int c_firstEaster = 1600;
-
-/// The years that people ask for, to the end of a cycle of 400 years.
-constexpr auto c_easterTable = []
-{
-    std::array<std::uint8_t, 800> table{};
-    for (std::size_t i = 0; i < table.size(); ++i)
-        table[i] = static_cast<std::uint8_t>(ComputeEaster(c_firstEaster + static_cast<unsigned int>(i)));
-    return table;
-}();
-
-/// ComputeEaster, by table where there is one.
-constexpr unsigned int GetEaster(unsigned int year)
-{
-    std::size_t const index = year - c_firstEaster;
-    return index < c_easterTable.size() ? c_easterTable[index] : ComputeEaster(year);
 }
 
 } // namespace VekSysBase::Internal

@@ -72,21 +72,37 @@ constexpr std::uint32_t GetShortDay(std::uint32_t year, std::uint32_t month, std
     return marchYear * 1461 / 4 - century + century / 4 + (marchMonth * 979 - 2919) / 32 + day - 1;
 }
 
-/// The date of a day counted from 1 March of the year 0, up to 2^30 days. Multiplications and shifts in place of most
-/// divisions, after Neri and Schneider, "Euclidean affine functions and their application to calendar algorithms"
+/// A day of a year that begins in March.
+struct MarchDay
+{
+    std::uint32_t year;
+    std::uint32_t day; // [0, 365]
+};
+
+/// Of a day counted from 1 March of the year 0, up to 2^30 days. Multiplications and shifts in place of most divisions,
+/// here and below, after Neri and Schneider, "Euclidean affine functions and their application to calendar algorithms"
 /// (2022).
-constexpr ShortDate GetShortDate(std::uint32_t day)
+constexpr MarchDay GetMarchDay(std::uint32_t day)
 {
     std::uint32_t const quarters = 4 * day + 3;
     std::uint32_t const century = quarters / 146097;
     std::uint32_t const quartersOfCentury = quarters % 146097 | 3;            // [3, 146099]
     std::uint64_t const years = std::uint64_t{ 2939745 } * quartersOfCentury; // in units of 2^-32
     auto const yearOfCentury = static_cast<std::uint32_t>(years >> 32U);      // [0, 99]
-    auto const dayOfYear = static_cast<std::uint32_t>(years) / 2939745 / 4;   // [0, 365]
-    std::uint32_t const months = dayOfYear * 2141 + 197913;                   // in units of 2^-16
-    std::uint32_t const marchMonth = months >> 16U;                           // [3, 14]
-    std::uint32_t const isNextYear = (12 - marchMonth) >> 31U;                // from 1 January on
-    return { century * 100 + yearOfCentury + isNextYear, marchMonth - 12 * isNextYear, (months & 0xFFFFU) / 2141 + 1 };
+    return { century * 100 + yearOfCentury, static_cast<std::uint32_t>(years) / 2939745 / 4 };
+}
+
+constexpr ShortDate GetShortDate(MarchDay day)
+{
+    std::uint32_t const months = day.day * 2141 + 197913;      // in units of 2^-16
+    std::uint32_t const marchMonth = months >> 16U;            // [3, 14]
+    std::uint32_t const isNextYear = (12 - marchMonth) >> 31U; // from 1 January on
+    return { day.year + isNextYear, marchMonth - 12 * isNextYear, (months & 0xFFFFU) / 2141 + 1 };
+}
+
+constexpr ShortDate GetShortDate(std::uint32_t day)
+{
+    return GetShortDate(GetMarchDay(day));
 }
 
 constexpr long long c_daysOfCycle = 146097;       // 400 years
