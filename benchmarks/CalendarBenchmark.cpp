@@ -26,7 +26,8 @@ auto MakeQuestions()
             VekDateEx date(1, 1, 1970);
             date.AddDays(days);
             return date;
-        });
+        },
+        [](VekDateEx const& date) { return date.GetYear(); });
 }
 
 int ToDayNumber(VekDateEx const& date)
@@ -53,8 +54,7 @@ bool const c_isRegistered = []
         ToDayNumber);
     RegisterForEach(
         "CalendarEaster/ours", MakeQuestions,
-        [](Question const& question)
-        { return VekDateEnv().GetOstersonntag(static_cast<unsigned int>(question.date.GetYear())); },
+        [](Question const& question) { return VekDateEnv().GetOstersonntag(static_cast<unsigned int>(question.year)); },
         [](VekDateEx const& easter) { return static_cast<int>(easter.GetDayOfYear()); });
     return true;
 }();
