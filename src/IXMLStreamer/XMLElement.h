@@ -1,6 +1,7 @@
 #pragma once
 
 #include <IXMLStreamer/Internal/NameTable.h>
+#include <IXMLStreamer/Internal/SharedObject.h>
 #include <IXMLStreamer/VersionedFunctionCollection.h>
 #include <VekApi.h>
 
@@ -58,7 +59,7 @@ private:
     Attributes::Entry const* FindAttribute(std::string_view name) const;
 
     std::string m_name;
-    Attributes m_attributes;
+    Internal::SharedObject<Attributes> m_attributes; // none before the first; an assignment replaces them all
     AttributeHandlers m_unspecifiedAttributes;
     Elements* m_home = nullptr; // the root's list of all elements, so that the end of a deep description takes no stack
 };

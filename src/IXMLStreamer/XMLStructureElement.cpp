@@ -47,6 +47,9 @@ void XMLStructureElement::UseElement(XMLElement& element)
 
 void XMLStructureElement::InsertElement(std::unique_ptr<XMLElement> element)
 {
+    constexpr std::size_t c_fewest = 16;
+    if (m_home->capacity() == 0)
+        m_home->reserve(c_fewest);
     XMLElement& inserted = *m_home->emplace_back(std::move(element));
     inserted.m_home = m_home;
     AddChild(inserted);

@@ -8,9 +8,12 @@
 namespace Vek::Framework::IParser::Native::Internal
 {
 
+// `inline` says nothing new of a template, but the compiler takes it for a hint, and these are short ways only in
+// place.
+
 /// One bit for each of the 16 bytes at `at` that is one of `members`, or below the space where `withControls` is set.
 template <bool withControls, char... members>
-unsigned int MatchAny(char const* at)
+inline unsigned int MatchAny(char const* at)
 {
     __m128i const block = _mm_loadu_si128(reinterpret_cast<__m128i const*>(at));
     __m128i matches = _mm_setzero_si128();
@@ -31,7 +34,7 @@ char const* FindMatchInRest(char const* at, char const* end)
 }
 
 template <bool withControls, char... members>
-char const* FindMatch(char const* at, char const* end)
+inline char const* FindMatch(char const* at, char const* end)
 {
     constexpr std::ptrdiff_t c_blockSize = 16;
     for (; end - at >= c_blockSize; at += c_blockSize)
@@ -42,14 +45,14 @@ char const* FindMatch(char const* at, char const* end)
 
 /// The first of the bytes `members` in [at, end), or `end`; 16 bytes at a time.
 template <char... members>
-char const* FindAny(char const* at, char const* end)
+inline char const* FindAny(char const* at, char const* end)
 {
     return FindMatch<false, members...>(at, end);
 }
 
 /// The first byte in [at, end) that is none of `members`, or `end`; 16 bytes at a time.
 template <char... members>
-char const* FindOther(char const* at, char const* end)
+inline char const* FindOther(char const* at, char const* end)
 {
     constexpr std::ptrdiff_t c_blockSize = 16;
     for (; end - at >= c_blockSize; at += c_blockSize)
@@ -62,7 +65,7 @@ char const* FindOther(char const* at, char const* end)
 
 /// The first byte in [at, end) that is one of `members` or below the space, or `end`.
 template <char... members>
-char const* FindAnyOrControl(char const* at, char const* end)
+inline char const* FindAnyOrControl(char const* at, char const* end)
 {
     return FindMatch<true, members...>(at, end);
 }

@@ -121,25 +121,35 @@ std::size_t CopyShort(char* target, char const* text, std::size_t size)
     return at;
 }
 
+// Copies the bytes that stand as they are, up to the first that may not.
+std::size_t CopyPlain(char* target, std::string_view text)
+{
+    return text.size() < c_blockSize ? CopyShort(target, text.data(), text.size())
+                                     : CopyLong(target, text.data(), text.size());
+}
+
 } // namespace
 
 void AppendEscaped(TextBuffer& target, std::string_view text)
 {
-    char* end = target.Reserve(text.size());
-    for (;;)
+    char* const end = target.Reserve(text.size());
+    std::size_t const plain = CopyPlain(end, text);
+    target.SetEnd(end + plain);
+    if (plain != text.size())
+        AppendFromEscaped(target, text.substr(plain));
+}
+
+void AppendFromEscaped(TextBuffer& target, std::string_view text)
+{
+    while (!text.empty())
     {
-        std::size_t const size = text.size();
-        std::size_t const plain =
-            size < c_blockSize ? CopyShort(end, text.data(), size) : CopyLong(end, text.data(), size);
-        end += plain;
-        target.SetEnd(end);
-        if (plain == size)
-            return;
-        EscapedByte const& byte = c_escapedBytes[static_cast<unsigned char>(text[plain])];
-        text.remove_prefix(plain + 1);
-        end = target.Reserve(text.size() + sizeof(byte.text));
+        EscapedByte const& byte = c_escapedBytes[static_cast<unsigned char>(text.front())];
+        text.remove_prefix(1);
+        char* const end = target.Reserve(sizeof(byte.text) + text.size());
         std::memcpy(end, byte.text, sizeof(byte.text));
-        end += byte.size;
+        std::size_t const plain = CopyPlain(end + byte.size, text);
+        target.SetEnd(end + byte.size + plain);
+        text.remove_prefix(plain);
     }
 }
 

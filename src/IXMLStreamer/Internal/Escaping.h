@@ -11,4 +11,7 @@ namespace Vek::Framework::IXMLStreamer::Native::Internal
 /// `target` holds a part.
 void AppendEscaped(TextBuffer& target, std::string_view text);
 
+/// The same for a text that begins with such a byte, or with one that looks like it.
+void AppendFromEscaped(TextBuffer& target, std::string_view text);
+
 } // namespace Vek::Framework::IXMLStreamer::Native::Internal

@@ -14,7 +14,7 @@ class SharedObject
 {
 public:
     SharedObject() = default;
-    explicit SharedObject(T object) : m_block(new Block{ std::move(object), 1 }) {}
+    explicit SharedObject(T&& object) : m_block(new Block{ std::move(object), 1 }) {}
     SharedObject(SharedObject const& other) noexcept : m_block(other.m_block)
     {
         if (m_block != nullptr)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <string>
@@ -44,10 +43,9 @@ public:
     /// Ends the text, and gives back its memory when that has grown large.
     void Clear()
     {
-        constexpr std::size_t c_keptBytes = 65536;
         m_size = 0;
-        if (m_memory.size() > c_keptBytes)
-            std::string().swap(m_memory);
+        if (m_memory.size() > c_mostKept)
+            Release();
     }
 
     /// Copies `text` to `target` and answers its end. Short texts are by far the most.
@@ -79,11 +77,10 @@ private:
         std::memcpy(target + size - length, ends + length, length);
     }
 
-    void Grow(std::size_t size)
-    {
-        constexpr std::size_t c_least = 256;
-        m_memory.resize(std::max({ m_size + size, 2 * m_memory.size(), c_least }));
-    }
+    void Grow(std::size_t size);
+    void Release();
+
+    static constexpr std::size_t c_mostKept = 65536;
 
     std::string m_memory; // all of it is room
     std::size_t m_size = 0;

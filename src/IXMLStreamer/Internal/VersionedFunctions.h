@@ -62,7 +62,7 @@ private:
         Function function;
     };
 
-    static Entry Copy(Entry const& entry) { return { entry.version, Function(*entry.function) }; }
+    static Entry Copy(Entry const& entry) { return { entry.version, Function(F(*entry.function)) }; }
 
     template <class Iterator>
     static Iterator FindNext(Iterator begin, Iterator end, unsigned int version)

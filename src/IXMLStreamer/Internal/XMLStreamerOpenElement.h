@@ -14,13 +14,6 @@ inline XMLStructureElement const* XMLStreamer::Reader::GetOpenStructure() const
     return description.isStructure ? static_cast<XMLStructureElement const*>(description.element) : nullptr;
 }
 
-// Where the first child of `structure` is remembered.
-inline XMLStreamer::Reader::Child const** XMLStreamer::Reader::GetFirstChild(XMLStructureElement const& structure)
-{
-    auto const& children = structure.m_children.GetEntries();
-    return children ? &children->first : nullptr;
-}
-
 // That came next last time.
 inline XMLStreamer::Reader::Child const* XMLStreamer::Reader::GetExpectedChild() const
 {
@@ -35,9 +28,10 @@ inline void XMLStreamer::Reader::PushChild(Child const& child)
         *place = &child;
     place = &child.successor;
     Internal::ElementDescription const& description = child.value;
-    m_openElements.Push(child, description.isStructure
-                                   ? GetFirstChild(static_cast<XMLStructureElement const&>(*description.element))
-                                   : nullptr);
+    m_openElements.Push(child,
+                        description.isStructure
+                            ? static_cast<XMLStructureElement const&>(*description.element).m_children.GetFirstPlace()
+                            : nullptr);
 }
 
 inline XMLStreamer::Reader::Attribute const* XMLStreamer::Reader::FindAttribute(std::string_view name) const

@@ -32,7 +32,7 @@ using IParser::Native::Internal::FindOther;
 namespace
 {
 
-char const* SkipBlanks(char const* at, char const* end)
+inline char const* SkipBlanks(char const* at, char const* end)
 {
     for (int looks = 0; looks < 2; ++looks, ++at) // one blank is the most common, and not worth a block
         if (at == end || !IsBlank(*at))
@@ -62,7 +62,7 @@ bool IsHarmless(char const* begin, char const* at)
 // Where the text in [begin, end) stops: at `stop` or a code. `end` as well when it holds what the strict syntax
 // refuses.
 template <char stop>
-char const* FindStrictTextEnd(char const* begin, char const* end)
+inline char const* FindStrictTextEnd(char const* begin, char const* end)
 {
     constexpr char c_suspect = stop == '<' ? '>' : '<'; // in content, in a value
     for (char const* at = begin;; ++at)
@@ -76,7 +76,7 @@ char const* FindStrictTextEnd(char const* begin, char const* end)
 }
 
 template <bool isStrict, char stop>
-char const* FindTextEnd(char const* begin, char const* end)
+inline char const* FindTextEnd(char const* begin, char const* end)
 {
     return isStrict ? FindStrictTextEnd<stop>(begin, end) : FindAny<stop, '&'>(begin, end);
 }
@@ -88,15 +88,20 @@ char const* FindTextEnd(char const* begin, char const* end)
 class XMLStreamer::Reader::ExpectedAttribute
 {
 public:
-    explicit ExpectedAttribute(XMLElement const* element) : m_element(element) { Update(); }
+    explicit ExpectedAttribute(XMLElement const* element)
+        : m_element(element),
+          m_attributes(element == nullptr ? SharedObject<XMLElement::Attributes>() : element->m_attributes),
+          m_place(GetFirstPlace())
+    {
+    }
 
     /// After handlers.
     void Update()
     {
-        if (m_element == nullptr || m_entries == m_element->m_attributes.GetEntries())
+        if (m_element == nullptr || m_attributes == m_element->m_attributes)
             return;
-        m_entries = m_element->m_attributes.GetEntries();
-        m_place = &m_entries.Get()->first;
+        m_attributes = m_element->m_attributes;
+        m_place = GetFirstPlace();
     }
 
     Attribute const* Get() const { return m_place == nullptr ? nullptr : *m_place; }
@@ -111,9 +116,11 @@ public:
     }
 
 private:
+    Attribute const** GetFirstPlace() const { return m_attributes ? m_attributes->GetFirstPlace() : nullptr; }
+
     XMLElement const* m_element;
-    SharedObject<XMLElement::Attributes::Entries> m_entries;
-    Attribute const** m_place = nullptr;
+    SharedObject<XMLElement::Attributes> m_attributes;
+    Attribute const** m_place;
 };
 
 template <bool isStrict>
@@ -164,7 +171,7 @@ bool XMLStreamer::Reader::Consume(unsigned int state, Params& params, Text const
 // to the state table, or to the start of a text that is left to it: its end is not in memory, or it holds what is to be
 // refused.
 template <bool isStrict, char stop>
-char const* XMLStreamer::Reader::AppendPlainText(char const* at, char const* end)
+inline char const* XMLStreamer::Reader::AppendPlainText(char const* at, char const* end)
 {
     char const* const textEnd = FindTextEnd<isStrict, stop>(at, end);
     if (textEnd == end)
@@ -205,7 +212,7 @@ bool XMLStreamer::Reader::ReadTag(char const*& at, char const* end, Params& para
 }
 
 template <bool isStrict>
-bool XMLStreamer::Reader::ReadTagStart(char const*& at, char const* end, Params& params)
+inline bool XMLStreamer::Reader::ReadTagStart(char const*& at, char const* end, Params& params)
 {
     char const* const name = at + 1;
     if (Child const* const child = GetExpectedChild(); child != nullptr)
@@ -243,7 +250,7 @@ char const* XMLStreamer::Reader::FindElementNameEnd(char const* name, char const
 }
 
 // Where the ">" of the innermost element's end tag stands, if that begins at `at`; null otherwise.
-char const* XMLStreamer::Reader::FindEndTagEnd(char const* at, char const* end) const
+inline char const* XMLStreamer::Reader::FindEndTagEnd(char const* at, char const* end) const
 {
     if (end - at < 3 || at[1] != '/' || m_openElements.IsEmpty())
         return nullptr;
@@ -253,7 +260,7 @@ char const* XMLStreamer::Reader::FindEndTagEnd(char const* at, char const* end) 
     return tagEnd != nullptr && *tagEnd == '>' ? tagEnd : nullptr;
 }
 
-bool XMLStreamer::Reader::ReadEndTag(char const*& at, char const* tagEnd, Params& params)
+inline bool XMLStreamer::Reader::ReadEndTag(char const*& at, char const* tagEnd, Params& params)
 {
     bool const isEnded = Consume<&Reader::EndElement>(EndTagEnd, params);
     at = isEnded ? tagEnd + 1 : tagEnd;
@@ -305,8 +312,8 @@ char const* XMLStreamer::Reader::FindAttributeNameEnd(char const* name, char con
 
 // `name` is behind the blanks at `at`.
 template <bool isStrict>
-bool XMLStreamer::Reader::ReadAttribute(char const*& at, char const* name, char const* end, ExpectedAttribute& expected,
-                                        Params& params)
+inline bool XMLStreamer::Reader::ReadAttribute(char const*& at, char const* name, char const* end,
+                                               ExpectedAttribute& expected, Params& params)
 {
     Attribute const* attribute = expected.Get();
     char const* nameEnd = attribute == nullptr ? nullptr : MatchName(attribute->name, name, end);

@@ -121,14 +121,16 @@ void XMLStreamer::Reader::ForgetWhatCameLast() const
 {
     if (m_root == nullptr)
         return;
-    m_root->m_attributes.ForgetSuccessors();
-    m_root->m_children.ForgetSuccessors();
-    for (auto const& element : m_root->m_elements)
+    auto const forget = [](XMLElement const& element)
     {
-        element->m_attributes.ForgetSuccessors();
-        if (element->GetElementType() == XMLElement::Structure)
-            static_cast<XMLStructureElement const&>(*element).m_children.ForgetSuccessors();
-    }
+        if (element.m_attributes)
+            element.m_attributes->ForgetSuccessors();
+        if (element.GetElementType() == XMLElement::Structure)
+            static_cast<XMLStructureElement const&>(element).m_children.ForgetSuccessors();
+    };
+    forget(*m_root);
+    for (auto const& element : m_root->m_elements)
+        forget(*element);
 }
 
 // One long value or deep document must not cost memory for ever. The names of the elements that are open after a

@@ -129,7 +129,6 @@ private:
 
     XMLStructureElement const* GetOpenStructure() const;
     XMLElement const* GetOpenElement() const { return m_openElements.GetInnermost().description.element; }
-    static Child const** GetFirstChild(XMLStructureElement const& structure);
     Child const* GetExpectedChild() const;
     void PushChild(Child const& child);
     Attribute const* FindAttribute(std::string_view name) const;
