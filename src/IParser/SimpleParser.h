@@ -73,7 +73,6 @@ public:
 
 private:
     // What can begin with a byte. A run of bytes without any flag needs no further look.
-    // What can begin with a byte. A run of bytes without any flag needs no further look.
     enum StartFlag : unsigned char
     {
         Blank = 1,
@@ -98,13 +97,14 @@ private:
 
     VEK_LOCAL bool GetAnySymbol(Symbol& symbol);
     VEK_LOCAL bool Record(Symbol& symbol);
-    VEK_LOCAL bool ScanPlainSymbol(Symbol& symbol);
+    VEK_LOCAL bool GetText(Symbol& symbol);
+    VEK_LOCAL bool HandOut(Symbol& symbol, char const* begin, std::size_t size);
+    VEK_LOCAL bool HandOutAny(Symbol& symbol, char const* begin, std::size_t size);
     VEK_LOCAL std::size_t BuildPlainSymbol(Symbol& symbol, int start);
     VEK_LOCAL std::size_t BuildPlainIdentifier(Symbol& symbol);
     VEK_LOCAL std::size_t BuildPlainToken(Symbol& symbol);
     VEK_LOCAL std::size_t BuildLoneToken(Symbol& symbol);
     VEK_LOCAL void BeginToken(Symbol& symbol, Internal::Token const& token);
-    VEK_LOCAL static void SetText(Symbol& symbol, char const* begin, std::size_t size);
     VEK_LOCAL bool BuildNextSymbol(Symbol& symbol);
     VEK_LOCAL bool BuildPassThroughSymbol(Symbol& symbol);
     VEK_LOCAL void CalcPosition();

@@ -1,5 +1,7 @@
 #include <IParser/SimpleParser.h>
 
+#include <Platform/Attributes.h>
+
 #include <cstring>
 
 namespace Vek::Framework::IParser::Native
@@ -20,22 +22,27 @@ inline void SimpleParser::SkipBlanks()
         }
     m_column = column;
     m_position = static_cast<std::size_t>(at - m_source.data());
-    if ((GetStart() & Tab) != 0)
-        CalcPosition();
+    if ((m_starts[static_cast<unsigned char>(*at)] & Tab) != 0)
+        m_column += m_tabSize;
 }
 
-// Reads up to c_padding bytes from `begin`, however short the text is: a copy of known size needs no call.
-inline void SimpleParser::SetText(Symbol& symbol, char const* begin, std::size_t size)
+// Reads up to c_padding bytes from `begin`, however short the text is: a copy of known size needs no call. That the
+// text is empty and has room is asked for once more, so that the compiler knows it, too.
+inline bool SimpleParser::HandOut(Symbol& symbol, char const* begin, std::size_t size)
 {
     std::string& text = symbol.m_text;
     text.clear();
-    if (size > c_padding)
-    {
-        text.append(begin, size);
-        return;
-    }
+    if (size > c_padding || !text.empty() || text.capacity() < c_padding || m_recordSymbols)
+        return HandOutAny(symbol, begin, size);
     text.append(begin, c_padding);
-    text.resize(size);
+    text.erase(size);
+    return true;
+}
+
+VEK_NOINLINE bool SimpleParser::HandOutAny(Symbol& symbol, char const* begin, std::size_t size)
+{
+    symbol.m_text.assign(begin, size);
+    return !m_recordSymbols || Record(symbol);
 }
 
 inline void SimpleParser::BeginToken(Symbol& symbol, Internal::Token const& token)
@@ -93,38 +100,29 @@ inline std::size_t SimpleParser::BuildPlainSymbol(Symbol& symbol, int start)
     return BuildPlainToken(symbol);
 }
 
-// A short way for most symbols: blanks and comments, and then a token, a text or an identifier whose end is beyond
-// doubt. It comes to the same as BuildNextSymbol. Where more is to be looked at, it answers false and has passed blanks
-// and comments at most.
-inline bool SimpleParser::ScanPlainSymbol(Symbol& symbol)
-{
-    for (;;)
-    {
-        if (GetStart() == Blank)
-            SkipBlanks();
-        int const start = GetStart();
-        if ((start & (Blank | Tab | TextStart | End)) != 0)
-            break;
-        if ((start & CommentStart) != 0 && IsComment())
-        {
-            SkipComment();
-            continue;
-        }
-        char const* const begin = GetPosition();
-        std::size_t const size = BuildPlainSymbol(symbol, start & ~CommentStart);
-        if (size != 0)
-            SetText(symbol, begin, size);
-        return size != 0;
-    }
-    m_symbolInProgress = false;
-    return GetStart() == TextStart && ScanText(symbol);
-}
-
+// A short way for most symbols: blanks, and then a token or an identifier whose end is beyond doubt. It comes to the
+// same as GetAnySymbol, which goes on, blanks passed at most, where more is to be looked at. All that is called is
+// called last: so nothing has to be kept meanwhile, which would take longer than most symbols do.
 bool SimpleParser::GetNextSymbol(Symbol& symbol)
 {
-    if (!m_passThrough && ScanPlainSymbol(symbol))
-        return !m_recordSymbols || Record(symbol);
-    return GetAnySymbol(symbol);
+    if (m_passThrough)
+        return GetAnySymbol(symbol);
+    if (GetStart() == Blank)
+        SkipBlanks();
+    int const start = GetStart();
+    if (start == TextStart)
+        return GetText(symbol);
+    if ((start & (Blank | Tab | TextStart | End)) != 0 || ((start & CommentStart) != 0 && IsComment()))
+        return GetAnySymbol(symbol);
+    char const* const begin = GetPosition();
+    std::size_t const size = BuildPlainSymbol(symbol, start & ~CommentStart);
+    return size != 0 ? HandOut(symbol, begin, size) : GetAnySymbol(symbol);
+}
+
+VEK_NOINLINE bool SimpleParser::GetText(Symbol& symbol)
+{
+    m_symbolInProgress = false;
+    return ScanText(symbol) && (!m_recordSymbols || Record(symbol));
 }
 
 bool SimpleParser::BuildNextSymbol(Symbol& symbol)
@@ -213,7 +211,7 @@ bool SimpleParser::ScanToken(Symbol& symbol)
 
     BeginToken(symbol, *token);
     std::size_t const size = token->GetText().size();
-    SetText(symbol, GetPosition(), size);
+    symbol.m_text.assign(GetPosition(), size);
     Advance(size);
     return true;
 }
@@ -233,7 +231,7 @@ bool SimpleParser::ScanText(Symbol& symbol)
                                    : static_cast<std::size_t>(static_cast<char const*>(delimiter) - begin);
     Advance(length);
     symbol.Begin(Symbol::Text, m_line, m_column);
-    SetText(symbol, begin, length);
+    symbol.m_text.assign(begin, length);
     if (delimiter != nullptr)
         Advance(1);
     else
