@@ -87,6 +87,8 @@ TEST(XMLStreamer, RandomMarkupReadsTheSameInWholeAndInPiecesAndStrictlyIfAtAll)
         bool const isRead = strict.Read(document);
         std::string const wholeStrictly = strict.Describe(isRead);
         ASSERT_TRUE(!isRead || whole == wholeStrictly) << document << "|" << whole << "|" << wholeStrictly;
+        TracingReader fresh(isRead ? XMLStreamer::Strict : XMLStreamer::Lenient); // remembers nothing
+        ASSERT_EQ(whole, fresh.Describe(fresh.Read(document))) << document;
         readStrictly += isRead ? 1 : 0;
         for (std::size_t const split : { document.size() - random() % (document.size() - 31), document.size() / 2 })
         {
