@@ -2,8 +2,8 @@
 
 /// Attributes of functions that compilers spell differently, or lack. They stand first in a declaration.
 ///
-/// VEK_NOINLINE: stays a call. VEK_INLINE: never a call, however long. VEK_COLD: hardly ever called. VEK_NEEDS: compiled with instructions beyond SSE2, to be
-/// called only where the processor has them.
+/// VEK_NOINLINE: stays a call. VEK_INLINE: never a call, however long. VEK_COLD: hardly ever called. VEK_NEEDS:
+/// compiled with instructions beyond SSE2, to be called only where the processor has them.
 #if defined(_MSC_VER) // clang-cl as well
 #    define VEK_NOINLINE __declspec(noinline)
 #    define VEK_INLINE __forceinline

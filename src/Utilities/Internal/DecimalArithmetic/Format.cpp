@@ -4,7 +4,6 @@
 #include <Utilities/Internal/DecimalArithmetic/PackedDigits.h>
 
 #include <algorithm>
-#include <array>
 #include <bit>
 
 namespace Vek::Framework::Utilities::DecimalArithmetic
@@ -116,8 +115,14 @@ std::size_t WriteShort(wchar_t* target, Encoding value, wchar_t separator) noexc
     return sign + static_cast<unsigned>(count + (fraction != 0 ? 1 : 0));
 }
 
-/// Digits of four bits, sixteen to a word, the first one on top.
-using DigitBlocks = std::array<std::uint64_t, 3>;
+/// Digits of four bits, sixteen to a word, the first one on top. No array: words that go through memory one by one and
+/// come back as a pair are waited for.
+struct DigitBlocks
+{
+    std::uint64_t first;
+    std::uint64_t second;
+    std::uint64_t third;
+};
 
 /// More digits, and how they are to be written.
 struct LongText
@@ -131,13 +136,16 @@ struct LongText
 /// By up to fifteen digits.
 constexpr std::uint64_t JoinShifted(std::uint64_t first, std::uint64_t second, int digits) noexcept
 {
-    return first << 4 * digits | second >> 4 >> (60 - 4 * digits);
+    return first << 4 * digits | second >> 4U >> (60 - 4 * digits);
 }
 
-/// The first `count` of sixteen digits, up to all of them and down to none.
-constexpr std::uint64_t MaskFirst(int count) noexcept
+/// All that begins with the digit at `index` moved by one. The index may lie before the block or behind it.
+constexpr std::uint64_t OpenGap(std::uint64_t before, std::uint64_t block, int index) noexcept
 {
-    return count <= 0 ? 0 : count >= 16 ? ~std::uint64_t{ 0 } : ~(~std::uint64_t{ 0 } >> 4 * count);
+    std::uint64_t const moved = before << 60U | block >> 4U;
+    std::uint64_t const all = ~std::uint64_t{ 0 };
+    std::uint64_t const kept = index <= 0 ? 0 : index >= 16 ? all : ~(all >> 4 * index);
+    return (block & kept) | (moved & ~kept);
 }
 
 LongText MakeLongText(Encoding value) noexcept
@@ -149,15 +157,14 @@ LongText MakeLongText(Encoding value) noexcept
     DigitBlocks all{ digits.high, digits.middle << 4U | digits.low >> 56U, digits.low << 8U }; // the last two are none
     int zeros = 46 - count;
     for (; zeros >= 16; zeros -= 16)
-        all = { all[1], all[2], 0 };
-    all = { JoinShifted(all[0], all[1], zeros), JoinShifted(all[1], all[2], zeros), all[2] << 4 * zeros };
-    DigitBlocks const moved{ all[0] >> 4U, all[0] << 60U | all[1] >> 4U, all[1] << 60U | all[2] >> 4U };
-    for (std::size_t i = 0; i < all.size(); ++i)
-    {
-        std::uint64_t const mask = MaskFirst(whole - 16 * static_cast<int>(i));
-        all[i] = (all[i] & mask) | (moved[i] & ~mask);
-    }
-    return { all, IsNegative(value) && !digits.IsZero(), whole, fraction == 0 ? count : count + 1 };
+        all = { all.second, all.third, 0 };
+    all = { JoinShifted(all.first, all.second, zeros), JoinShifted(all.second, all.third, zeros),
+            all.third << 4 * zeros };
+    return { { OpenGap(0, all.first, whole), OpenGap(all.first, all.second, whole - 16),
+               OpenGap(all.second, all.third, whole - 32) },
+             IsNegative(value) && !digits.IsZero(),
+             whole,
+             fraction == 0 ? count : count + 1 };
 }
 
 /// In place, the last sixteen units over those before.
@@ -166,14 +173,14 @@ void WriteLong(wchar_t* target, LongText const& text, wchar_t separator) noexcep
     DigitBlocks const& blocks = text.blocks;
     *target = L'-';
     target += text.isNegative ? 1 : 0;
-    Platform::StoreDigits(target, blocks[0]);
+    Platform::StoreDigits(target, blocks.first);
     if (text.size >= 32)
     {
-        Platform::StoreDigits(target + 16, blocks[1]);
-        Platform::StoreDigits(target + text.size - 16, JoinShifted(blocks[1], blocks[2], text.size - 32));
+        Platform::StoreDigits(target + 16, blocks.second);
+        Platform::StoreDigits(target + text.size - 16, JoinShifted(blocks.second, blocks.third, text.size - 32));
     }
     else
-        Platform::StoreDigits(target + text.size - 16, JoinShifted(blocks[0], blocks[1], text.size - 16));
+        Platform::StoreDigits(target + text.size - 16, JoinShifted(blocks.first, blocks.second, text.size - 16));
     if (text.whole != text.size)
         target[text.whole] = separator;
 }
