@@ -104,6 +104,8 @@ TEST(FileLoggerPosix, FollowsItsNameWhenTheFileIsDeleted)
     LogFolder folder;
     FileLogger logger = folder.Open();
     logger.Warn(L"a");
+    auto const permissions = std::filesystem::status(folder.GetFolder().GetPath() / "log").permissions();
+    EXPECT_EQ(std::filesystem::perms::none, permissions & std::filesystem::perms(0111)) << "a text is no program";
     std::filesystem::remove(folder.GetFolder().GetPath() / "log");
     folder.TurnClock(1000);
     logger.Info(L"b");
