@@ -231,6 +231,19 @@ TEST(PropertyStore, Version1AndKindsThatCameSince)
     EXPECT_EQ(5u, settings.Obtain(L"", L"x").GetId());
 }
 
+TEST(PropertyStore, FlagsAreThoseOfTheirCollection)
+{
+    Settings settings;
+    ASSERT_TRUE(Load(settings, "<?xml version='1.0'?>\n<propertyStore version='2'><collection id='0' name='s'/>\n"
+                               "<collection id='1' overridden='1' deletable='0'/><collection id='2'/></propertyStore>")
+                    .IsSuccess());
+    for (unsigned int id : { 1U, 2U })
+    {
+        EXPECT_EQ(id == 1, settings.GetPropertyCollection(id).IsOverriden());
+        EXPECT_EQ(id == 2, settings.GetPropertyCollection(id).IsDeletable());
+    }
+}
+
 // Such as a wchar_t of 32 bits can hold; there are none on Windows.
 TEST(PropertyStore, UnitsThatAreNoneAreRefused)
 {
