@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <deque>
+#include <list>
 #include <set>
 #include <string>
 #include <string_view>
@@ -63,7 +63,7 @@ private:
     bool ContainsInOrder(std::string_view name);
 
     std::vector<std::string_view> m_names;
-    std::deque<std::string> m_kept;                                    // copies of the first names
+    std::list<std::string> m_kept;                                     // copies of the first names
     std::set<std::size_t, IsBefore> m_ordered{ IsBefore{ &m_names } }; // the first names, as far as was asked for
 };
 

@@ -14,6 +14,12 @@ void OpenElements::Clear()
     ReleaseIfLarge(m_elements);
 }
 
+void OpenElements::Reserve()
+{
+    constexpr std::size_t c_usualDepth = 8;
+    m_elements.reserve(c_usualDepth);
+}
+
 void OpenElements::KeepNames()
 {
     std::string names;

@@ -28,6 +28,8 @@ public:
 
     /// Also gives back what a deep document made the list allocate.
     void Clear();
+    /// Makes room for the depth of most documents.
+    void Reserve();
     void Push(std::string_view name, ElementDescription const& description, Children::Entry const** firstChild)
     {
         m_elements.push_back({ nullptr, m_names.size(), description, firstChild });

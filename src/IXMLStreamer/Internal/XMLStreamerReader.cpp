@@ -83,6 +83,7 @@ bool XMLStreamer::Reader::Process(Source&&... source)
     }
 
     Running const running(*this);
+    m_openElements.Reserve();
     m_result = StateProcessor(m_syntax == Lenient ? GetLenientStates() : GetStrictStates(), this,
                               std::forward<Source>(source)...)
                    .Process();
