@@ -45,8 +45,6 @@ VEK_INLINE Finite AddAligned(Finite const& a, Finite const& b) noexcept
                                          : Finite{ a.isNegative, a.exponent, Subtract(a.coefficient, b.coefficient) };
 }
 
-constexpr std::uint64_t c_upperLimit = GetPowerOfTen(c_precision - c_limbDigits);
-
 /// Half-up, from more than 34 digits.
 VEK_INLINE void Round(Finite& sum) noexcept
 {

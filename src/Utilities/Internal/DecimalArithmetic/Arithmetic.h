@@ -43,7 +43,7 @@ Encoding FinishLarge(Finite const& value) noexcept;
 
 inline Encoding Finish(Finite const& value) noexcept
 {
-    bool const fits = value.coefficient.high < GetPowerOfTen(c_precision - c_limbDigits);
+    bool const fits = value.coefficient.high < c_upperLimit;
     return fits && IsPlainExponent(value.exponent) ? Pack(value) : FinishLarge(value);
 }
 

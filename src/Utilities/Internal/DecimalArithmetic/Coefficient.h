@@ -13,6 +13,7 @@ namespace Vek::Framework::Utilities::DecimalArithmetic
 constexpr int c_precision = 34;
 constexpr int c_limbDigits = 18;
 constexpr std::uint64_t c_limbBase = 1'000'000'000'000'000'000;
+constexpr std::uint64_t c_upperLimit = GetPowerOfTen(c_precision - c_limbDigits); // of the upper limb of 34 digits
 
 /// A whole number of up to 36 digits, eighteen to a limb: shifting it by digits takes no long division.
 struct Coefficient

@@ -11,8 +11,6 @@ namespace
 
 using Platform::UInt128;
 
-constexpr std::uint64_t c_upperLimit = GetPowerOfTen(c_precision - c_limbDigits);
-
 /// Four limbs of eighteen digits, the lowest first.
 using Product = std::array<std::uint64_t, 4>;
 
