@@ -87,7 +87,7 @@ TEST(SimpleParser, ReusedSymbolsKeepNothingOfTheOneBefore)
 
 TEST(SimpleParser, CopiesOwnTheirSourceTokensAndRecord)
 {
-    auto original = std::make_unique<SimpleParser>(MakeParser({ { { 1, "<", true } } }, "a<b c", true));
+    auto original = std::make_unique<SimpleParser>(MakeParser({ { { 1, "<", true } } }, "a<b c<", true));
     Symbol symbol;
     original->GetNextSymbol(symbol);
     original->GetNextSymbol(symbol);
@@ -97,7 +97,7 @@ TEST(SimpleParser, CopiesOwnTheirSourceTokensAndRecord)
     original.reset();
     for (SimpleParser* const parser : { &copy, &assigned })
     {
-        EXPECT_EQ("i<b>1:3 i<c>1:5 ", Trace(*parser));
+        EXPECT_EQ("i<b>1:3 i<c>1:5 #1<<>1:6 ", Trace(*parser));
         Symbol const* previous = nullptr;
         std::string texts;
         auto const note = [&](Symbol const& recorded)
@@ -107,7 +107,7 @@ TEST(SimpleParser, CopiesOwnTheirSourceTokensAndRecord)
             texts += recorded.GetText();
         };
         parser->ForEachSymbol(note);
-        EXPECT_EQ("a<bc", texts);
+        EXPECT_EQ("a<bc<", texts);
     }
 }
 
