@@ -46,16 +46,17 @@ bool IsEscaped(char c)
     return c_escapedBytes[static_cast<unsigned char>(c)].size != 1;
 }
 
-// One bit for each byte that may be escaped: the five codes of XML, all above 127 and, since that is asked for with
-// them, all below the space.
+// One bit for each byte that may be escaped: all above 127, and seven of ASCII, two pairs of which differ in one bit.
 unsigned int FindCandidates(__m128i bytes)
 {
     auto const equals = [](__m128i block, char c) { return _mm_cmpeq_epi8(block, _mm_set1_epi8(c)); };
     auto const with = [bytes](char bits) { return _mm_or_si128(bytes, _mm_set1_epi8(bits)); };
-    __m128i const others = _mm_cmplt_epi8(bytes, _mm_set1_epi8(' ')); // signed
+    __m128i const lineEnds = _mm_or_si128(equals(bytes, '\n'), equals(bytes, '\r'));
     __m128i const quotes = _mm_or_si128(equals(bytes, '"'), equals(with('&' ^ '\''), '\''));
     __m128i const brackets = equals(with('<' ^ '>'), '>');
-    return static_cast<unsigned int>(_mm_movemask_epi8(_mm_or_si128(_mm_or_si128(others, quotes), brackets)));
+    __m128i const high = bytes; // for its sign bits
+    return static_cast<unsigned int>(
+        _mm_movemask_epi8(_mm_or_si128(_mm_or_si128(lineEnds, quotes), _mm_or_si128(brackets, high))));
 }
 
 unsigned int CopyBlock(char* target, char const* text)
@@ -101,8 +102,7 @@ bool CopyEnds(char* target, char const* text, std::size_t size)
     Word last;
     std::memcpy(&first, text, sizeof(Word));
     std::memcpy(&last, text + size - sizeof(Word), sizeof(Word));
-    constexpr unsigned int c_bytes = ((1U << sizeof(Word)) - 1) * 0x101;
-    if ((FindCandidates(_mm_unpacklo_epi64(Load(&first), Load(&last))) & c_bytes) != 0)
+    if (FindCandidates(_mm_unpacklo_epi64(Load(&first), Load(&last))) != 0) // zeros beside them are no candidates
         return false;
     std::memcpy(target, &first, sizeof(Word));
     std::memcpy(target + size - sizeof(Word), &last, sizeof(Word));
