@@ -134,8 +134,8 @@ constexpr auto c_heads = []
     std::array<Head, 32> heads{};
     for (unsigned bits = 0; bits < heads.size(); ++bits)
     {
-        bool const isLarge =
-            bits >= 24; // the digits 8 and 9: then it has one bit, and the exponent's stand further down
+        // The digits 8 and 9 have one bit, and the exponent's stand further down.
+        bool const isLarge = bits >= 24;
         unsigned const exponent = (isLarge ? bits >> 1U : bits >> 3U) & 3U;
         heads[bits] = { static_cast<std::uint16_t>(isLarge ? 8 + bits % 2 : bits % 8),
                         static_cast<std::int16_t>(exponent == 3 ? 0x7000
