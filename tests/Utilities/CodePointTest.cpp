@@ -70,7 +70,8 @@ TEST(CodePoint, FromTexts)
     CodePoint const both(pair);
     EXPECT_EQ(pair, std::wstring(both.begin(), both.end()));
     EXPECT_TRUE(CodePoint(L"a") == L'a');
-    for (std::wstring const& text : { std::wstring(), std::wstring(L"ab"), pair + L"x", MakeText({ 0xD83D }) })
+    for (std::wstring const& text :
+         { std::wstring(), std::wstring(L"ab"), std::wstring(L"abc"), pair + L"x", MakeText({ 0xD83D }) })
     {
         EXPECT_THROW(CodePoint{ text }, Vek::ArgumentException);
         EXPECT_THROW(CodePoint{ text.c_str() }, Vek::ArgumentException);
