@@ -26,6 +26,7 @@ struct Ours
         value.AppendToString(buffer, L'.', noGrouping);
         return buffer.size();
     }
+    static Text FormatFresh(Number const& value) { return value.ToString(L'.'); }
     static Number Add(Number const& a, Number const& b) { return a + b; }
     static Number Subtract(Number const& a, Number const& b) { return a - b; }
     static Number Multiply(Number const& a, Number const& b) { return a * b; }

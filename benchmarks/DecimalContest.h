@@ -119,6 +119,9 @@ void RegisterTexts(std::string const& size, std::string const& contestant, std::
         size + "Parse/" + contestant, [=](std::size_t i) { return Contestant::Parse(sources[i]); },
         Contestant::ToDouble);
     RegisterOperation(size + "Format/" + contestant, [=](std::size_t i) { return Contestant::Format(numbers[i]); });
+    if constexpr (requires { Contestant::FormatFresh(numbers[0]); })
+        RegisterOperation(size + "FormatFresh/" + contestant,
+                          [=](std::size_t i) { return Contestant::FormatFresh(numbers[i]); });
 }
 
 template <class Contestant>

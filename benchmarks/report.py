@@ -84,7 +84,7 @@ class Report:
         entry = self.amounts.get(row)
         if entry is None:
             return f"{self.counts[row]}"
-        return f"{self.counts[row] / entry['amount']:.3g} a{'n' * (entry['unit'] == 'item')} {entry['unit']}"
+        return f"{self.counts[row] / entry['amount']:.3g}/{entry['unit']}"
 
     def show_contests(self, pattern):
         lines = ["| workload | peer | time | goal | instructions | ours | peer's | our instructions |",

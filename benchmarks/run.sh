@@ -71,8 +71,8 @@ start_wine()
 list_windows_rows()
 {
     local rows
-    rows=$(wine "$windows/bin/$name.exe" --benchmark_list_tests | tr -d '\r' | grep -v '/10000$' | grep -E -e "${1:-.}" |
-        paste -sd '|')
+    rows=$(wine "$windows/bin/$name.exe" --benchmark_list_tests | tr -d '\r' |
+        grep -Ev '/10000(/|$)' | grep -E -e "${1:-.}" | paste -sd '|')
     echo "^($rows)\$"
 }
 
@@ -89,7 +89,7 @@ measure_memory_and_linearity()
 show_machine()
 {
     echo "$(lscpu | sed -n 's/^Model name: *//p'), $(nproc) processors; $(. /etc/os-release && echo "$PRETTY_NAME")," \
-        "GCC $(gcc -dumpfullversion), $(valgrind --version), $(wine --version)."
+        "GCC $(gcc -dumpfullversion), $(valgrind --version), $(wine --version 2>/dev/null)."
 }
 
 task=times

@@ -45,6 +45,13 @@ struct Intel
         bid128_to_string(buffer, value, &flags);
         return static_cast<std::size_t>(buffer[0]);
     }
+    static Text FormatFresh(Number const& value)
+    {
+        unsigned flags = 0;
+        char buffer[64];
+        bid128_to_string(buffer, value, &flags);
+        return buffer;
+    }
     static Number Add(Number const& a, Number const& b)
     {
         unsigned flags = 0;
