@@ -1,7 +1,5 @@
 #include "AllocationLimit.h"
 
-#include <cstdlib>
-
 #include <malloc.h>
 
 namespace AllocationLimit

@@ -1,15 +1,24 @@
 #pragma once
 
+#include <Exceptions/ArgumentException.h>
+#include <Exceptions/EnumOutOfRangeException.h>
+#include <Exceptions/InvalidStateException.h>
+#include <Exceptions/NullPointerException.h>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <climits>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <fstream>
 #include <functional>
 #include <iomanip>
+#include <iterator>
 #include <limits>
 #include <map>
 #include <memory>
@@ -20,13 +29,15 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <tuple>
+#include <type_traits>
 #include <typeinfo>
 #include <utility>
 #include <vector>
 
-// What every test begins with: GoogleTest and what tests use of the standard library, read once where it is
-// precompiled.
+// What every test begins with: GoogleTest, what tests use of the standard library, and the exceptions that most of them
+// expect; read once where it is precompiled.
 
 /// A table, whose columns get their names where it is walked:
 /// `Rows<int, char const*> const rows = { { 1, "one" } }; for (auto const& [number, why] : rows)`.

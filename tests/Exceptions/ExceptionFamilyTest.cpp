@@ -1,16 +1,10 @@
-#include <Exceptions/ArgumentException.h>
 #include <Exceptions/ContainerChangedException.h>
-#include <Exceptions/EnumOutOfRangeException.h>
 #include <Exceptions/InvalidCastException.h>
-#include <Exceptions/InvalidStateException.h>
 #include <Exceptions/NotImplementedException.h>
 #include <Exceptions/NotSupportedException.h>
-#include <Exceptions/NullPointerException.h>
 #include <Exceptions/UserException.h>
 #include <Exceptions/Win32Exception.h>
 #include <IParser/StateParser.h>
-
-#include <type_traits>
 
 namespace
 {

@@ -1,5 +1,3 @@
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/InvalidStateException.h>
 #include <ICommandProcessor/CommandHistory.h>
 #include <ICommandProcessor/CommandSupplier.h>
 

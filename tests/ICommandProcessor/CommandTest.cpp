@@ -1,5 +1,3 @@
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/InvalidStateException.h>
 #include <Exceptions/NotImplementedException.h>
 #include <ICommandProcessor/CommandCreatorRegistry.h>
 #include <ICommandProcessor/CommandSupplier.h>

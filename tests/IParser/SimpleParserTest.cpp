@@ -1,7 +1,5 @@
 #include <ScannerTrial.h>
 
-#include <Exceptions/NullPointerException.h>
-
 #include <clocale>
 
 using namespace SimpleParserTests;

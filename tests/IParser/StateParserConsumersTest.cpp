@@ -1,7 +1,5 @@
 #include <IParser/StateParser.h>
 
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/NullPointerException.h>
 #include <IParser/Internal/KeyAlreadyInsertedException.h>
 #include <IParser/Internal/StateToken.h>
 

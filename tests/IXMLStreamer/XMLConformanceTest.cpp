@@ -3,7 +3,6 @@
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLStreamer.h>
 
-#include <cstdlib>
 #include <filesystem>
 
 // Every document of an XML conformance suite goes to the reader and to expat: what the reader takes in the strict

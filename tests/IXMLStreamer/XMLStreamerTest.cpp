@@ -1,8 +1,5 @@
 #include "XMLStreamerFixture.h"
 
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/InvalidStateException.h>
-
 #include <pthread.h>
 
 using namespace XMLStreamerTests;

@@ -1,6 +1,5 @@
 #include <IXMLStreamer/XMLWriter.h>
 
-#include <array>
 #include <streambuf>
 
 using namespace Vek::Framework::IXMLStreamer::Native;

@@ -1,7 +1,6 @@
 #include "BreakingBuffer.h"
 #include "Utilities/TemporaryFolder.h"
 
-#include <Exceptions/InvalidStateException.h>
 #include <PropertyStore/PropertyStore.h>
 #include <Utilities/FileHelper.h>
 #include <Utilities/FileReplacement.h>

@@ -9,8 +9,6 @@
 
 #include "PrintDate.h"
 
-#include <Exceptions/EnumOutOfRangeException.h>
-
 using namespace VekSysBase;
 
 // tables/make-tables.py says how the tables were made.

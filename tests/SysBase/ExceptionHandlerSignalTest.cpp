@@ -1,8 +1,6 @@
 #include <SysBase/ExceptionHandler.h>
 #include <SysBase/Faults.h>
 
-#include <thread>
-
 #include <pthread.h>
 #include <signal.h>
 #include <sys/ptrace.h>

@@ -1,10 +1,8 @@
 #include <SysBase/ExceptionHandler.h>
 #include <SysBase/Faults.h>
 
-#include <array>
 #include <atomic>
 #include <cfenv>
-#include <thread>
 
 namespace
 {

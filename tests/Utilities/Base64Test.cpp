@@ -1,7 +1,5 @@
 #include "UnitText.h"
 
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/NullPointerException.h>
 #include <Utilities/Base64.h>
 
 using namespace Vek::Framework::Utilities;

@@ -1,4 +1,3 @@
-#include <Exceptions/ArgumentException.h>
 #include <Utilities/CancellationToken.h>
 #include <Utilities/EventHandleContainer.h>
 

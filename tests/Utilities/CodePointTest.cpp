@@ -1,8 +1,5 @@
 #include "UnitText.h"
 
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/InvalidStateException.h>
-#include <Exceptions/NullPointerException.h>
 #include <Utilities/CodePointEnumerator.h>
 #include <Utilities/WStringHelper.h>
 

@@ -1,6 +1,5 @@
 // Colours over their whole domains, their text and their conversions.
 
-#include <Exceptions/EnumOutOfRangeException.h>
 #include <Utilities/BGRAColors.h>
 #include <Utilities/ColorContrast.h>
 #include <Utilities/ColorHash.h>

@@ -1,4 +1,3 @@
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/CommaSeparatedValueReader.h>
 #include <Utilities/CommaSeparatedValueViewReader.h>
 #include <Utilities/CommaSeparatedValueWriter.h>

@@ -1,9 +1,6 @@
 // A tm in the local time of Vienna, across both changes of the clock. Started with TZ=Europe/Vienna.
 
-#include <Exceptions/ArgumentException.h>
 #include <Utilities/DateTimeHelper.h>
-
-#include <cstdlib>
 
 namespace
 {

@@ -1,7 +1,5 @@
 // What stands around Decimal: classes, strict reading, streams, hash, literals, amounts.
 
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/AmountText.h>
 #include <Utilities/DecimalClassification.h>
 #include <Utilities/DecimalFormat.h>

@@ -1,7 +1,5 @@
 #include <Utilities/Decimal.h>
 
-#include <Exceptions/EnumOutOfRangeException.h>
-
 #include "RandomDecimal.h"
 
 namespace

@@ -2,8 +2,6 @@
 
 #include <Utilities/Decimal.h>
 
-#include <Exceptions/InvalidStateException.h>
-
 #include "RandomDecimal.h"
 #include "UnitText.h"
 

@@ -1,7 +1,5 @@
 // Spans of time: the worked examples, and what must hold for any of them.
 
-#include <Exceptions/EnumOutOfRangeException.h>
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/DecimalClassification.h>
 #include <Utilities/DecimalLiterals.h>
 #include <Utilities/Duration.h>

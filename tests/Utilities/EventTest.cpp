@@ -1,8 +1,5 @@
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/Event.h>
 #include <Utilities/Nullable.h>
-
-#include <type_traits>
 
 using namespace Vek::Framework::Utilities;
 

@@ -1,12 +1,10 @@
+#include "FullDisk.h"
 #include "TemporaryFolder.h"
 #include "UnitText.h"
 
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/FileHelper.h>
 #include <Utilities/FileReplacement.h>
 
-#include <signal.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace Vek::Framework::Utilities;
@@ -40,18 +38,12 @@ TEST(FileHelperPosix, AFullDiskLeavesNoNewFile)
     TemporaryFolder const folder;
     std::wstring const source = folder.Write("source", std::string(100'000, 'x'));
     std::wstring const present = folder.Write("present", "old");
-    rlimit before = {};
-    getrlimit(RLIMIT_FSIZE, &before);
-    rlimit const small = { 50'000, before.rlim_max };
-    auto const handler = signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &small);
+    FullDisk const disk(50'000);
     EXPECT_EQ(ReplaceFileContent(present, std::string(100'000, 'x')), FileReplacementResult::NotWritten);
     EXPECT_FALSE(FileHelper::Exists(present + L".1.tmp"));
     EXPECT_EQ(FileHelper::ReadBinary(present)->GetSize(), 3U);
     EXPECT_FALSE(FileHelper::Copy(source, folder.At(L"new"), false));
     EXPECT_FALSE(FileHelper::Copy(source, present, true));
-    setrlimit(RLIMIT_FSIZE, &before);
-    signal(SIGXFSZ, handler);
     EXPECT_FALSE(FileHelper::Exists(folder.At(L"new")));
     EXPECT_TRUE(FileHelper::Exists(present)) << "what was there stays, incomplete";
 }

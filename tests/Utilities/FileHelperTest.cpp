@@ -1,7 +1,5 @@
 #include "TemporaryFolder.h"
 
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/FileHelper.h>
 
 using namespace Vek::Framework::Utilities;

@@ -1,42 +1,13 @@
+#include "FullDisk.h"
 #include "LogReader.h"
 
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/DebuggerLogger.h>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace Vek::Framework::Utilities;
 
-namespace
-{
-
-std::string const c_time = LogFolder::c_time;
-
-/// No file of this process grows beyond a size meanwhile, as if the disk were full.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t size)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        rlimit const limit{ size, m_before.rlim_max };
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, SIG_DFL);
-    }
-
-private:
-    rlimit m_before{};
-};
-
-} // namespace
+static std::string const c_time = LogFolder::c_time;
 
 TEST(FileLoggerPosix, AFullDiskLosesNothingThatCanBeKept)
 {

@@ -1,11 +1,7 @@
 #include "LogReader.h"
 #include "UnitText.h"
 
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/DebuggerLogger.h>
-
-#include <cstdio>
 
 using namespace Vek::Framework::Utilities;
 

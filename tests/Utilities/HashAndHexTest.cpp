@@ -1,6 +1,5 @@
 #include "UnitText.h"
 
-#include <Exceptions/ArgumentException.h>
 #include <Utilities/HashBuilder.h>
 #include <Utilities/HexConverter.h>
 #include <Utilities/WStringHelper.h>

@@ -1,6 +1,5 @@
 // Points, sizes and rectangles, and rectangles as sets of points.
 
-#include <Exceptions/ArgumentException.h>
 #include <Utilities/GeometryHash.h>
 #include <Utilities/GeometryStreams.h>
 #include <Utilities/IntRectangleSets.h>

@@ -4,8 +4,6 @@
 
 #include <Utilities/FileLogger.h>
 
-#include <iterator>
-
 /// What the tests of FileLogger share: a clock that they turn, and the bytes of files.
 class LogFolder
 {

@@ -1,10 +1,6 @@
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/LevelFilterLogger.h>
 #include <Utilities/MultiLogger.h>
 #include <Utilities/SynchronizedLogger.h>
-
-#include <thread>
 
 using namespace Vek::Framework::Utilities;
 

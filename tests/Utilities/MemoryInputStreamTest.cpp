@@ -1,9 +1,5 @@
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/NullPointerException.h>
 #include <Utilities/MemoryInputStream.h>
 #include <Utilities/SizedArray.h>
-
-#include <iterator>
 
 using Vek::Framework::Utilities::DataBuffer;
 using Vek::Framework::Utilities::MemoryInputStream;

@@ -2,8 +2,6 @@
 
 #include <Utilities/WStringHelper.h>
 
-#include <cstdio>
-
 using Vek::Framework::Utilities::WStringHelper;
 
 // Text conversions and case against what others have published about them.
@@ -104,29 +102,20 @@ TEST(PublishedData, EveryMalformedSequenceOfTheUtf8StressTestIsRefused)
 TEST(PublishedData, LowerCaseIsSimpleCaseFoldingButForNamedUnits)
 {
     // Folding goes to one of all partners, case only to one that leads back.
+    // clang-format off
     Rows<unsigned, unsigned, char const*> const rows = {
-        { 0xB5, 0xB5, "micro sign" },
-        { 0x17F, 0x17F, "long s" },
-        { 0x1C5, 0x1C5, "title-case dz with caron" },
-        { 0x1C8, 0x1C8, "title-case lj" },
-        { 0x1CB, 0x1CB, "title-case nj" },
-        { 0x1F2, 0x1F2, "title-case dz" },
-        { 0x345, 0x345, "combining iota" },
-        { 0x3C2, 0x3C2, "final sigma" },
-        { 0x3D0, 0x3D1, "beta and theta symbols" },
-        { 0x3D5, 0x3D6, "phi and pi symbols" },
-        { 0x3F0, 0x3F1, "kappa and rho symbols" },
+        { 0xB5, 0xB5, "micro sign" }, { 0x17F, 0x17F, "long s" }, { 0x1C5, 0x1C5, "title-case dz with caron" },
+        { 0x1C8, 0x1C8, "title-case lj" }, { 0x1CB, 0x1CB, "title-case nj" }, { 0x1F2, 0x1F2, "title-case dz" },
+        { 0x345, 0x345, "combining iota" }, { 0x3C2, 0x3C2, "final sigma" }, { 0x3D0, 0x3D1, "beta and theta symbols" },
+        { 0x3D5, 0x3D6, "phi and pi symbols" }, { 0x3F0, 0x3F1, "kappa and rho symbols" },
         { 0x3F4, 0x3F5, "capital theta and lunate epsilon symbols" },
         { 0x13A0, 0x13F5, "Cherokee capitals, to which its small letters fold" },
-        { 0x13F8, 0x13FD, "Cherokee small letters" },
-        { 0x1C80, 0x1C88, "rounded Cyrillic letters" },
-        { 0x1E9B, 0x1E9B, "long s with dot" },
-        { 0x1E9E, 0x1E9E, "capital sharp s" },
-        { 0x1FBE, 0x1FBE, "iota written beside" },
-        { 0x2126, 0x2126, "Ohm sign" },
-        { 0x212A, 0x212B, "Kelvin and Angstrom signs" },
-        { 0xAB70, 0xABBF, "more Cherokee small letters" },
+        { 0x13F8, 0x13FD, "Cherokee small letters" }, { 0x1C80, 0x1C88, "rounded Cyrillic letters" },
+        { 0x1E9B, 0x1E9B, "long s with dot" }, { 0x1E9E, 0x1E9E, "capital sharp s" },
+        { 0x1FBE, 0x1FBE, "iota written beside" }, { 0x2126, 0x2126, "Ohm sign" },
+        { 0x212A, 0x212B, "Kelvin and Angstrom signs" }, { 0xAB70, 0xABBF, "more Cherokee small letters" },
     };
+    // clang-format on
     std::map<unsigned, unsigned> folding = ReadCaseFolding();
     ASSERT_EQ(1194U, folding.size());
     for (unsigned unit = 0; unit <= 0xFFFF; ++unit)

@@ -1,4 +1,3 @@
-#include <Exceptions/ArgumentException.h>
 #include <Utilities/SizedArray.h>
 
 #include <new>

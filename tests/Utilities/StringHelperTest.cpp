@@ -1,4 +1,3 @@
-#include <Exceptions/ArgumentException.h>
 #include <Utilities/StringHelper.h>
 
 using Vek::Framework::Utilities::StringHelper;

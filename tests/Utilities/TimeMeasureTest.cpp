@@ -1,4 +1,3 @@
-#include <Exceptions/ArgumentException.h>
 #include <Utilities/TimeMeasure.h>
 #include <Utilities/TimeMeasureContainer.h>
 

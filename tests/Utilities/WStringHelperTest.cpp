@@ -1,7 +1,5 @@
 #include "UnitText.h"
 
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/NullPointerException.h>
 #include <Utilities/WStringHelper.h>
 
 using namespace Vek::Framework::Utilities;
@@ -33,14 +31,11 @@ TEST(WStringHelper, SearchesEndAtTheFirstZero)
     std::wstring const text = MakeText({ 'a', 'b', 0, 'c', 'd' });
     // clang-format off
     Rows<std::wstring, bool, bool, bool> const rows = {
-        { L"", true, true, true },
-        { L"b", true, false, false },
-        { L"ab", true, true, false },
-        { L"cd", false, false, true },
+        { L"", true, true, true }, { L"b", true, false, false },
+        { L"ab", true, true, false }, { L"cd", false, false, true },
         { MakeText({ 'a', 'b', 0, 'x' }), true, true, false },
         { MakeText({ 'b', 0, 'x', 'x' }), true, false, true },
-        { MakeText({ 'a', 'b', 0, 'c', 'd', 'e' }), true, false, false },
-        { MakeText({ 0 }), true, false, false },
+        { MakeText({ 'a', 'b', 0, 'c', 'd', 'e' }), true, false, false }, { MakeText({ 0 }), true, false, false },
     };
     // clang-format on
     for (auto const& [other, isContained, isStart, isEnd] : rows)

@@ -2,8 +2,6 @@
 
 #include "Sample.h"
 
-#include <Exceptions/ArgumentException.h>
-
 #include <streambuf>
 
 namespace Invoicing

@@ -4,8 +4,6 @@
 #include "InvoiceDraft.h"
 #include "Sample.h"
 
-#include <functional>
-
 using namespace Vek::Framework::Utilities;
 using VekSysBase::VekDateEx;
 

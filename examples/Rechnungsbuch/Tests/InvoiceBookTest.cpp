@@ -2,8 +2,6 @@
 
 #include "Sample.h"
 
-#include <random>
-
 using VekSysBase::VekDateEx;
 
 namespace Invoicing

@@ -2,8 +2,6 @@
 
 #include "Sample.h"
 
-#include <utility>
-
 namespace Invoicing
 {
 

@@ -8,9 +8,6 @@
 #include <SysBase/Werktage.h>
 #include <Utilities/ColorContrast.h>
 
-#include <map>
-#include <random>
-
 using namespace Vek::Framework::Utilities;
 using VekSysBase::VekDateEx;
 

@@ -2,10 +2,6 @@
 
 #include "HookedProperty.h"
 
-#include <Exceptions/InvalidStateException.h>
-
-#include <iterator>
-
 using namespace Vek;
 using namespace Vek::Framework::Utilities::IPropertyCollection::Native;
 

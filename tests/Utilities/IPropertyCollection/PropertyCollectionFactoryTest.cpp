@@ -1,7 +1,5 @@
 #include "HookedProperty.h"
 
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/IPropertyCollection/PropertyCollectionExceptions.h>
 
 using namespace Vek;

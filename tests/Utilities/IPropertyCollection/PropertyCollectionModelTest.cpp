@@ -3,8 +3,6 @@
 #include "HookedProperty.h"
 #include "PlainFactory.h"
 
-#include <array>
-
 using namespace Vek::Framework::Utilities::IPropertyCollection::Native;
 
 namespace

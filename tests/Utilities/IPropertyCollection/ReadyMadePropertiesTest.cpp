@@ -1,6 +1,5 @@
 #include "HookedProperty.h"
 
-#include <Exceptions/ArgumentException.h>
 #include <Utilities/IPropertyCollection/BooleanProperty.h>
 #include <Utilities/IPropertyCollection/ChangedValues.h>
 #include <Utilities/IPropertyCollection/ChoiceProperty.h>
@@ -12,8 +11,6 @@
 #include <Utilities/IPropertyCollection/PropertyCollectionFactory.h>
 #include <Utilities/IPropertyCollection/PropertyCollectionFactoryAccess.h>
 #include <Utilities/IPropertyCollection/TextProperty.h>
-
-#include <iterator>
 
 using namespace Vek;
 using namespace Vek::Framework::Utilities;
@@ -60,30 +57,22 @@ TEST(ReadyMadeProperties, TextsForPeopleAndForFiles)
     ReadyMade factory;
     auto const collection = factory.Create();
     // A kind, its text in the store, and the user's: null when it is refused.
+    // clang-format off
     Rows<unsigned int, wchar_t const*, wchar_t const*> const rows = {
-        { Printer, L"", L"" },
-        { Printer, L"\u00e4 \u20ac\n", L"\u00e4 \u20ac\n" },
-        { Tray, L"9", L"9" },
-        { Tray, L"-1", L"-1" },
-        { Tray, L"10", nullptr },
-        { Tray, L"-2", nullptr },
-        { Tray, L" 1", nullptr },
+        { Printer, L"", L"" }, { Printer, L"\u00e4 \u20ac\n", L"\u00e4 \u20ac\n" },
+        { Tray, L"9", L"9" }, { Tray, L"-1", L"-1" }, { Tray, L"10", nullptr }, { Tray, L"-2", nullptr },
+        { Tray, L" 1", nullptr }, { Tray, L"99999999999999999999", nullptr },
         { Tray, L"\u0131", nullptr }, // whose low byte is the digit 1
-        { Tray, L"99999999999999999999", nullptr },
-        { Margin, L"1234.50", L"1.234,50" },
-        { Margin, L"-0.0001", L"-0,0001" },
-        { Margin, L"1000000.01", nullptr },
-        { Margin, L"1,5", nullptr },
-        { Margin, L"1E+2", nullptr },
-        { Margin, L"NaN", nullptr },
+        { Margin, L"1234.50", L"1.234,50" }, { Margin, L"-0.0001", L"-0,0001" },
+        { Margin, L"1000000.01", nullptr }, { Margin, L"1,5", nullptr },
+        { Margin, L"1E+2", nullptr }, { Margin, L"NaN", nullptr },
         { Margin, L"0.00000000000000000000000000000000000000000001",
           L"0,00000000000000000000000000000000000000000001" },
         { Margin, L"1.0000000000000000000000000000000000001", nullptr }, // would be rounded
-        { Duplex, L"false", L"nein" },
-        { Duplex, L"ja", nullptr },
-        { Paper, L"a5", L"DIN A5" },
-        { Paper, L"DIN A4", nullptr },
+        { Duplex, L"false", L"nein" }, { Duplex, L"ja", nullptr },
+        { Paper, L"a5", L"DIN A5" }, { Paper, L"DIN A4", nullptr },
     };
+    // clang-format on
     for (auto const& [kind, stored, user] : rows)
     {
         StoredProperty& property = Stored(*collection, kind);

@@ -1,7 +1,5 @@
 // Message loops of controls outside a dialog: who sees a message, who ends first, what is put back.
 
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/UI/ControlMessageLoop.h>
 
 #include <windows.h>

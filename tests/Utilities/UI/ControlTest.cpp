@@ -1,11 +1,8 @@
 // Controls and windows of a real dialog: read, written, moved and measured.
 
-#include <Exceptions/InvalidStateException.h>
 #include <Utilities/IntRectangleSets.h>
 #include <Utilities/UI/DeviceContext.h>
 #include <Utilities/UI/EditInput.h>
-
-#include <cstdlib>
 
 #include "TestDialog.h"
 

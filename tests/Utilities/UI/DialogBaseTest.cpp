@@ -1,10 +1,6 @@
 // Real dialogs driven by posted messages: hooks, owners, drawing, exceptions, lifetimes, and no handle lost.
 
-#include <Exceptions/ArgumentException.h>
-#include <Exceptions/InvalidStateException.h>
 #include <Exceptions/Win32Exception.h>
-
-#include <cstdlib>
 
 #include "TestDialog.h"
 

@@ -1,9 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <string>
-#include <vector>
-
 #include <windows.h>
 
 namespace Tests

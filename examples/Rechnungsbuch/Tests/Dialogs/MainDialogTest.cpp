@@ -10,9 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
 #include "Utilities/TemporaryFolder.h"
 
 namespace Tests
