@@ -29,8 +29,7 @@ class PropertyCollectionFactoryObserver;
 ///            from inside a callback lives until the outermost call has ended.
 /// Errors:    all checks come before any change. What a callback throws passes through; what was done before stays,
 ///            unless said otherwise.
-/// Cost:      by id constant; by name, and an unnamed collection by its values, linear in the collections. Collections
-/// of
+/// Cost:      by id constant; by name, and an unnamed collection by its values, linear in the collections. Those of
 ///            ready-made properties are told apart without looking at their values, those with properties of other
 ///            classes value by value. New contents for a collection that has all the properties allocate nothing, but
 ///            for another template name when a string does not hold it in place.
