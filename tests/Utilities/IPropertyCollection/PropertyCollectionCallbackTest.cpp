@@ -1,6 +1,6 @@
 // From inside each notification and each other callback, everything that a program may do there.
 
-#include "HookedProperty.h"
+#include <HookedProperty.h>
 
 using namespace Vek;
 using namespace Vek::Framework::Utilities::IPropertyCollection::Native;

@@ -1,4 +1,4 @@
-#include "HookedProperty.h"
+#include <HookedProperty.h>
 
 #include <Utilities/IPropertyCollection/PropertyCollectionExceptions.h>
 #include <Utilities/IPropertyCollection/PropertyCollectionObtainer.h>

@@ -1,4 +1,4 @@
-#include "HookedProperty.h"
+#include <HookedProperty.h>
 
 #include <Utilities/IPropertyCollection/BooleanProperty.h>
 #include <Utilities/IPropertyCollection/ChangedValues.h>

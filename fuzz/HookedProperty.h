@@ -4,7 +4,12 @@
 #include <Utilities/IPropertyCollection/PropertyCollectionFactoryAccess.h>
 #include <Utilities/IPropertyCollection/PropertyCollectionFactoryObserver.h>
 
+#include <functional>
 #include <initializer_list>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
 
 namespace Vek::Framework::Utilities::IPropertyCollection::Native
 {

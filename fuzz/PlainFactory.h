@@ -1,5 +1,14 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace PropertyCollectionTests
+{
+
 /// The rules of the factory put down as plainly as they are told; the test compares every step with it.
 struct PlainCollection
 {
@@ -145,3 +154,5 @@ struct PlainFactory
             value.second = static_cast<int>(value.first) * 10;
     }
 };
+
+} // namespace PropertyCollectionTests
