@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -14,10 +13,7 @@ struct NameKey
 {
     static constexpr std::size_t c_headSize = 16;
 
-    explicit NameKey(std::string_view name) : text(name), headBits((1U << std::min(name.size(), c_headSize)) - 1)
-    {
-        name.copy(head, c_headSize);
-    }
+    explicit NameKey(std::string_view name) : text(name), headBits((1U << name.copy(head, c_headSize)) - 1) {}
 
     std::string text;
     char head[c_headSize]{}; // the first bytes of the name
