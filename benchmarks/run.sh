@@ -57,6 +57,7 @@ measure()
     "$@" "${repetitions[@]}" --benchmark_filter="$filter" --benchmark_enable_random_interleaving=true \
         --benchmark_report_aggregates_only=true --benchmark_format=json >"$file" 2>"$file.log" ||
         { cat "$file.log"; exit 1; }
+    [ -s "$file" ] || { echo "No row matches $filter" >&2; exit 1; }
 }
 
 start_wine()
