@@ -1,3 +1,4 @@
+#include <Utilities/Internal/ResizeAndOverwrite.h>
 #include <Utilities/StringHelper.h>
 
 using Vek::Framework::Utilities::StringHelper;
@@ -132,4 +133,15 @@ TEST(StringHelper, WhitespaceAndIntegers)
     EXPECT_TRUE(StringHelper::IsInteger("", false) && StringHelper::IsInteger("0123456789", false));
     for (char const* const other : { "-1", "1/", ":" })
         EXPECT_FALSE(StringHelper::IsInteger(other, true)) << other;
+}
+
+// Compiled as C++20 here: what the library does where the standard library is older.
+TEST(StringHelper, GrowingKeepsWhatWasThereAndWhatWasWritten)
+{
+    std::string text = "kept";
+    Vek::Framework::Utilities::ResizeAndOverwrite(text, 40, [](char* units, std::size_t size) {
+        std::fill(units + 4, units + size, 'x');
+        return size - 30;
+    });
+    EXPECT_EQ("keptxxxxxx", text);
 }
