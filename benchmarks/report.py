@@ -36,7 +36,8 @@ def read_times(path):
 
 
 def get_seconds(run):
-    return run["cpu_time"] * {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}[run["time_unit"]]
+    clock = "real_time" if run["run_name"].endswith("/real_time") else "cpu_time"
+    return run[clock] * {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}[run["time_unit"]]
 
 
 def show_speed(run):
