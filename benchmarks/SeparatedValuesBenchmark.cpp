@@ -30,7 +30,10 @@ SeparatedTotals ReadWithOurs(std::wstring const& text)
     {
         CommaSeparatedValueReader reader(text.substr(begin, end - begin), L';');
         while (reader.MoveNext())
-            totals.Add(reader.GetCurrentValue().data(), reader.GetCurrentValue().size());
+        {
+            std::wstring const& value = reader.GetCurrentValue();
+            totals.Add(value.data(), value.size());
+        }
     };
     ForEachLine(text, read);
     return totals;

@@ -24,6 +24,42 @@ inline __m128i LoadUnits(wchar_t const* units) noexcept
         return _mm_packs_epi32(_mm_loadu_si128(source), _mm_loadu_si128(source + 1));
 }
 
+/// Four units from each of two places, as LoadUnits has eight of one.
+inline __m128i LoadHalves(wchar_t const* first, wchar_t const* second) noexcept
+{
+    auto const* const low = reinterpret_cast<__m128i const*>(first);
+    auto const* const high = reinterpret_cast<__m128i const*>(second);
+    if constexpr (sizeof(wchar_t) == 2)
+        return _mm_unpacklo_epi64(_mm_loadl_epi64(low), _mm_loadl_epi64(high));
+    else
+        return _mm_packs_epi32(_mm_loadu_si128(low), _mm_loadu_si128(high));
+}
+
+/// Copies four units as they are.
+inline void CopyHalf(wchar_t const* units, wchar_t* target) noexcept
+{
+    auto const* const from = reinterpret_cast<__m128i const*>(units);
+    auto* const to = reinterpret_cast<__m128i*>(target);
+    if constexpr (sizeof(wchar_t) == 2)
+        _mm_storel_epi64(to, _mm_loadl_epi64(from));
+    else
+        _mm_storeu_si128(to, _mm_loadu_si128(from));
+}
+
+/// Copies eight units as they are.
+inline void CopyUnits(wchar_t const* units, wchar_t* target) noexcept
+{
+    auto const* const from = reinterpret_cast<__m128i const*>(units);
+    auto* const to = reinterpret_cast<__m128i*>(target);
+    __m128i const low = _mm_loadu_si128(from);
+    if constexpr (sizeof(wchar_t) != 2)
+    {
+        __m128i const high = _mm_loadu_si128(from + 1);
+        _mm_storeu_si128(to + 1, high);
+    }
+    _mm_storeu_si128(to, low);
+}
+
 /// Writes eight 16-bit lanes as eight units.
 inline void StoreUnits(wchar_t* units, __m128i lanes) noexcept
 {

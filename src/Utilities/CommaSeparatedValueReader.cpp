@@ -1,6 +1,9 @@
 #include <Utilities/CommaSeparatedValueReader.h>
 
 #include <Exceptions/InvalidStateException.h>
+#include <Platform/Attributes.h>
+#include <Utilities/Internal/ResizeAndOverwrite.h>
+#include <Utilities/Internal/SeparatedBlock.h>
 #include <Utilities/Internal/SeparatedValue.h>
 
 #include <algorithm>
@@ -21,7 +24,7 @@ CommaSeparatedValueReader::CommaSeparatedValueReader(CommaSeparatedValueReader c
 CommaSeparatedValueReader::CommaSeparatedValueReader(CommaSeparatedValueReader&& other) noexcept
     : m_text(std::move(other.m_text)),
       m_separator(other.m_separator),
-      m_position(std::exchange(other.m_position, 0)),
+      m_cursor(std::exchange(other.m_cursor, {})),
       m_currentValue(std::move(other.m_currentValue))
 {
     other.m_text.clear(); // nothing is left there, whatever the move did with short texts
@@ -32,7 +35,7 @@ CommaSeparatedValueReader& CommaSeparatedValueReader::operator=(CommaSeparatedVa
     CommaSeparatedValueReader moved(std::move(other));
     m_text.swap(moved.m_text);
     m_separator = moved.m_separator;
-    m_position = moved.m_position;
+    m_cursor = moved.m_cursor;
     m_currentValue.swap(moved.m_currentValue);
     return *this;
 }
@@ -40,11 +43,39 @@ CommaSeparatedValueReader::~CommaSeparatedValueReader() = default;
 
 bool CommaSeparatedValueReader::MoveNext()
 {
-    m_currentValue.clear();
-    if (m_position == m_text.size())
-        return false;
-    AppendSeparatedValue(m_text, m_separator, m_position, m_currentValue);
+    if (m_cursor.stops == 0)
+        return MoveOn();
+    std::size_t const begin = m_cursor.position;
+    std::size_t const stop = GetStop(m_cursor);
+    std::size_t const size = stop - begin;
+    // Whole blocks: there is room for them, and the last one may take some units more where there are some.
+    std::size_t const room = (size + c_unitsInBlock - 1) / c_unitsInBlock * c_unitsInBlock;
+    if (m_text[stop] != m_separator || m_text.size() - begin < room || m_currentValue.capacity() < room)
+        return MoveOn();
+    auto const write = [size, from = m_text.data() + begin](wchar_t* units, std::size_t) noexcept
+    {
+        for (std::size_t at = 0; at < size; at += c_unitsInBlock)
+            Platform::CopyUnits(from + at, units + at);
+        return size;
+    };
+    ResizeAndOverwrite(m_currentValue, room, write);
+    PassStop(stop, m_cursor);
     return true;
+}
+
+/// Whatever is not as usual. A call, so that the usual value needs no room for its variables.
+VEK_NOINLINE bool CommaSeparatedValueReader::MoveOn()
+{
+    if (m_cursor.stops == 0 && LookAhead(m_text, m_separator, m_cursor))
+        return MoveNext();
+    if (m_cursor.stops != 0)
+    {
+        ReadEscapedValue(m_text, m_separator, m_cursor, m_currentValue);
+        return true;
+    }
+    m_currentValue.assign(m_text, m_cursor.position);
+    m_cursor.position = m_text.size();
+    return !m_currentValue.empty();
 }
 
 std::wstring const& CommaSeparatedValueReader::GetCurrentValue() const noexcept
@@ -61,8 +92,8 @@ std::wstring const& CommaSeparatedValueReader::ReadNext()
 
 std::wstring const& CommaSeparatedValueReader::ReadRest()
 {
-    m_currentValue.assign(m_text, m_position);
-    m_position = m_text.size();
+    m_currentValue.assign(m_text, m_cursor.position);
+    m_cursor = { m_text.size(), m_text.size(), 0 };
     return m_currentValue;
 }
 

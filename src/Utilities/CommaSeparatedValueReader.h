@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Utilities/CommaSeparatedValueViewReader.h>
 #include <VekApi.h>
 
 #include <string>
@@ -37,9 +38,11 @@ public:
     std::wstring const& ReadRest();
 
 private:
+    bool MoveOn();
+
     std::wstring m_text;
     wchar_t m_separator;
-    unsigned long long m_position = 0;
+    Internal::SeparatedCursor m_cursor;
     std::wstring m_currentValue;
 };
 

@@ -8,6 +8,22 @@
 namespace Vek::Framework::Utilities
 {
 
+// Private: not meant for hosts.
+namespace Internal
+{
+
+/// How far a reader of separated values is, in units.
+struct SeparatedCursor
+{
+    static constexpr unsigned c_reach = 64; // of one look, as many as there are bits
+
+    unsigned long long position = 0; // of the next value
+    unsigned long long ahead = 0;    // where the units begin that were not looked at,
+    unsigned long long stops = 0; // and a bit for each separator and backslash in the reach before that is not passed
+};
+
+} // namespace Internal
+
 /// Splits a line as CommaSeparatedValueReader does, but copies neither the line nor its values: they are views of the
 /// text, which must stay where it is while the reader and its values are in use. Only a value with a backslash in it is
 /// put together, in memory of the reader's own.
@@ -35,18 +51,13 @@ public:
     std::wstring_view ReadRest() noexcept;
 
 private:
-    void Unescape();
-    unsigned long long FindStop() noexcept;
-    void LookAhead() noexcept;
+    bool MoveOn();
 
     std::wstring_view m_text;
     wchar_t m_separator;
-    bool m_isUnescaped = false;        // the current value is the reader's own,
-    std::wstring_view m_part;          // else this part of the text
-    unsigned long long m_position = 0; // of the next value
-    unsigned long long m_seen = 0;     // where the units end that were looked at,
-    unsigned long long m_block = 0;    // where the last of them begin that were looked at together,
-    unsigned m_stops = 0;              // and a bit for each separator and backslash of these that is still ahead
+    bool m_isUnescaped = false; // the current value is the reader's own,
+    std::wstring_view m_part;   // else this part of the text
+    Internal::SeparatedCursor m_cursor;
     std::wstring m_unescaped;
 };
 

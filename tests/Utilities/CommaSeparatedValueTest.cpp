@@ -88,11 +88,12 @@ TEST(CommaSeparatedValue, RandomRoundTrips)
     for (int i = 0; i < 2000; ++i)
     {
         // A backslash as separator does not come back: it ends the value before it is looked at as an escape.
-        wchar_t const separator = L";,a\t\xFFFD\x7FFF"[random() % 6];
+        wchar_t const separator = L";,a\t\xFFFD\x7FFF\xFE\xFF"[random() % 8];
         Values values(random() % 6);
         for (std::wstring& value : values)
             for (unsigned size = static_cast<unsigned>(random() % 40); size > 0; --size)
-                value += random() % 6 == 0 ? L"\\;"[random() % 2] : L"abcdefgh,;\xFFFD\x7FFF\xFFFF"[random() % 13];
+                value += random() % 6 == 0 ? L"\\;"[random() % 2]
+                                           : L"abcdefgh,;\xFFFD\x7FFF\xFFFF\x13B\xFE\xFF"[random() % 16];
         ASSERT_EQ(values, Read(Write(values, separator), separator)) << i;
     }
     CommaSeparatedValueWriter writer;
