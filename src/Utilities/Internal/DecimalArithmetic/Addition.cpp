@@ -12,6 +12,12 @@ namespace Vek::Framework::Utilities::DecimalArithmetic
 namespace
 {
 
+/// A word of digits and perhaps a sixteenth one, which as a declet is itself.
+std::uint64_t PackSum(std::uint64_t digits) noexcept
+{
+    return PackDigits(digits) | (digits >> c_wordBits) << c_packedBits;
+}
+
 /// Without `count` digits behind more than 35 of the greater number. What is cut off counts for nothing in a sum; in a
 /// difference it takes one more, and what that leaves over is cut off in its turn.
 VEK_NOINLINE Coefficient Cut(Coefficient lower, int count, bool isDifference) noexcept
@@ -45,6 +51,35 @@ VEK_INLINE Finite AddAligned(Finite const& a, Finite const& b) noexcept
                                          : Finite{ a.isNegative, a.exponent, Subtract(a.coefficient, b.coefficient) };
 }
 
+/// Without its last digit, half-up; the number has 35 digits and begins with 1.
+VEK_INLINE void DropLastDigit(Finite& sum) noexcept
+{
+    std::uint64_t const high = sum.coefficient.high / 10;
+    std::uint64_t const low = (sum.coefficient.high % 10 * c_limbBase + sum.coefficient.low + 5) / 10;
+    bool const carries = low == c_limbBase;
+    sum.coefficient = { high + (carries ? 1U : 0U), carries ? 0 : low };
+    ++sum.exponent;
+}
+
+/// The exponent of the first is the greater one. When it has all 34 digits, so has the result, but for few: then the
+/// other one is rounded where these end. False for any other.
+VEK_INLINE bool AddShifted(Finite const& upper, Finite const& lower, Finite& sum) noexcept
+{
+    int const count = upper.exponent - lower.exponent;
+    if (count >= c_limbDigits || upper.coefficient.high < c_upperLimit / 10)
+        return false;
+    bool const isDifference = upper.isNegative != lower.isNegative;
+    Division const high = DivideByPowerOfTen(lower.coefficient.high, count);
+    Division const low = DivideByPowerOfTen(lower.coefficient.low, count);
+    // What is one half rounds away from zero: a sum up, and what is taken off a difference down.
+    std::uint64_t const rounding = 2 * low.remainder + (isDifference ? 0 : 1) > GetPowerOfTen(count) ? 1 : 0;
+    Coefficient const shifted{ high.quotient,
+                               high.remainder * GetPowerOfTen(c_limbDigits - count) + low.quotient + rounding };
+    sum = { upper.isNegative, upper.exponent,
+            isDifference ? Subtract(upper.coefficient, shifted) : Add(upper.coefficient, shifted) };
+    return sum.coefficient.high > c_upperLimit / 10 && sum.coefficient.high < c_upperLimit;
+}
+
 /// Half-up, from more than 34 digits.
 VEK_INLINE void Round(Finite& sum) noexcept
 {
@@ -58,9 +93,8 @@ VEK_INLINE void Round(Finite& sum) noexcept
     }
 }
 
-} // namespace
-
-Encoding AddLarge(Encoding a, Encoding b) noexcept
+/// Any two.
+VEK_NOINLINE Encoding AddOther(Encoding a, Encoding b) noexcept
 {
     if (!IsFinite(a) || !IsFinite(b))
         return Reference::Add(a, b);
@@ -68,7 +102,7 @@ Encoding AddLarge(Encoding a, Encoding b) noexcept
     Finite right = Unpack(b);
     if (left.exponent > right.exponent)
         Align(left, right);
-    else if (left.exponent < right.exponent)
+    else
         Align(right, left);
     Finite sum = AddAligned(left, right);
     if (sum.coefficient.high >= c_upperLimit)
@@ -76,9 +110,49 @@ Encoding AddLarge(Encoding a, Encoding b) noexcept
     return IsPlainExponent(sum.exponent) ? Pack(sum) : Reference::Add(a, b);
 }
 
-Encoding SubtractLarge(Encoding a, Encoding b) noexcept
+Encoding AddLarge(Encoding a, Encoding b) noexcept
 {
-    return IsFinite(b) ? AddLarge(a, Negate(b)) : Reference::Subtract(a, b);
+    Finite const left = Unpack(a);
+    Finite const right = Unpack(b);
+    Finite sum;
+    if (left.exponent == right.exponent)
+    {
+        sum = AddAligned(left, right);
+        if (sum.coefficient.high >= c_upperLimit)
+            DropLastDigit(sum);
+    }
+    else if (!(left.exponent > right.exponent ? AddShifted(left, right, sum) : AddShifted(right, left, sum)))
+        return AddOther(a, b);
+    return IsPlainExponent(sum.exponent) ? Pack(sum) : AddOther(a, b);
+}
+
+/// Both of up to fifteen digits: by these, one number's moved left as far as the exponents differ.
+VEK_NOINLINE Encoding AddSmall(Encoding a, Encoding b) noexcept
+{
+    std::uint64_t left = UnpackDigits(a.low);
+    std::uint64_t right = UnpackDigits(b.low);
+    int const difference = GetSmallExponent(a) - GetSmallExponent(b);
+    if (!(difference > 0 ? ShiftWordLeft(left, difference) : ShiftWordLeft(right, -difference)))
+        return AddLarge(a, b);
+    std::uint64_t const high = (difference > 0 ? b.high : a.high) & ~c_signBit;
+    if (IsNegative(a) == IsNegative(b))
+        return { PackSum(AddDigits(left, right)), high | (a.high & c_signBit) };
+    if (left == right)
+        return { 0, high };
+    return left > right ? Encoding{ PackDigits(SubtractDigits(left, right).digits), high | (a.high & c_signBit) }
+                        : Encoding{ PackDigits(SubtractDigits(right, left).digits), high | (b.high & c_signBit) };
+}
+
+} // namespace
+
+Encoding AddUnlike(Encoding a, Encoding b) noexcept
+{
+    return AreSmall<c_packedBits>(a, b) ? AddSmall(a, b) : AddLarge(a, b);
+}
+
+Encoding SubtractUnlike(Encoding a, Encoding b) noexcept
+{
+    return IsFinite(b) ? AddUnlike(a, Negate(b)) : Reference::Subtract(a, b);
 }
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic

@@ -21,8 +21,8 @@ int CompareDeclets(std::uint64_t a, std::uint64_t b) noexcept
     for (std::uint64_t difference = a ^ b; difference != 0;)
     {
         unsigned const index = (static_cast<unsigned>(std::bit_width(difference)) - 1) / 10;
-        unsigned const left = c_valuesOfDeclets[GetDeclet(a, index)];
-        unsigned const right = c_valuesOfDeclets[GetDeclet(b, index)];
+        unsigned const left = c_valuesOfDeclets[0][GetDeclet(a, index)];
+        unsigned const right = c_valuesOfDeclets[0][GetDeclet(b, index)];
         if (left != right)
             return left < right ? -1 : 1;
         difference &= (std::uint64_t{ 1 } << 10 * index) - 1;

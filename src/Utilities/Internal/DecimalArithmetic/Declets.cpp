@@ -64,25 +64,39 @@ constexpr Table Fill(std::size_t count, Assign const& assign)
 
 } // namespace
 
-constinit std::array<std::uint16_t, 1024> const c_valuesOfDeclets = Fill<std::array<std::uint16_t, 1024>>(
-    1024,
-    [](auto& table, unsigned declet) { table[declet] = static_cast<std::uint16_t>(GetValue(DecodeDeclet(declet))); });
+constinit std::array<std::array<std::uint32_t, 1024>, 3> const c_valuesOfDeclets =
+    Fill<std::array<std::array<std::uint32_t, 1024>, 3>>(1024,
+                                                         [](auto& tables, unsigned declet)
+                                                         {
+                                                             unsigned const value = GetValue(DecodeDeclet(declet));
+                                                             tables[0][declet] = value;
+                                                             tables[1][declet] = value * 1000;
+                                                             tables[2][declet] = value * 1'000'000;
+                                                         });
 
-constinit std::array<std::uint32_t, 1024> const c_thousandsOfDeclets = Fill<std::array<std::uint32_t, 1024>>(
-    1024, [](auto& table, unsigned declet) { table[declet] = 1000 * GetValue(DecodeDeclet(declet)); });
-
-constinit std::array<std::uint32_t, 1024> const c_millionsOfDeclets = Fill<std::array<std::uint32_t, 1024>>(
-    1024, [](auto& table, unsigned declet) { table[declet] = 1'000'000 * GetValue(DecodeDeclet(declet)); });
-
-constinit std::array<std::uint16_t, 1000> const c_declets = Fill<std::array<std::uint16_t, 1000>>(
-    1024,
-    [](auto& table, unsigned declet) { table[GetValue(DecodeDeclet(declet))] = static_cast<std::uint16_t>(declet); });
+constinit std::array<std::array<std::uint32_t, 1000>, 3> const c_declets =
+    Fill<std::array<std::array<std::uint32_t, 1000>, 3>>(1024,
+                                                         [](auto& tables, unsigned declet)
+                                                         {
+                                                             unsigned const value = GetValue(DecodeDeclet(declet));
+                                                             for (unsigned place = 0; place < tables.size(); ++place)
+                                                                 tables[place][value] = declet << 10 * place;
+                                                         });
 
 constinit std::array<std::uint16_t, 1024> const c_digitsOfDeclets = Fill<std::array<std::uint16_t, 1024>>(
     1024, [](auto& table, unsigned declet) { table[declet] = static_cast<std::uint16_t>(DecodeDeclet(declet)); });
 
 constinit std::array<std::uint16_t, 4096> const c_decletsOfDigits = Fill<std::array<std::uint16_t, 4096>>(
     1024, [](auto& table, unsigned declet) { table[DecodeDeclet(declet)] = static_cast<std::uint16_t>(declet); });
+
+constinit std::array<std::uint16_t, 4096> const c_decletsOfGroups =
+    Fill<std::array<std::uint16_t, 4096>>(1024,
+                                          [](auto& table, unsigned declet)
+                                          {
+                                              unsigned const value = GetValue(DecodeDeclet(declet));
+                                              table[value] = static_cast<std::uint16_t>(declet);
+                                              table[value + 4096 - 1000] = static_cast<std::uint16_t>(declet);
+                                          });
 
 constinit std::array<std::uint8_t, 1024> const c_lengthsOfDeclets = Fill<std::array<std::uint8_t, 1024>>(
     1024,

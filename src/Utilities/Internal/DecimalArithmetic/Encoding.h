@@ -93,8 +93,8 @@ struct Finite
 /// Three declets as nine digits.
 inline std::uint64_t UnpackNine(std::uint64_t declets) noexcept
 {
-    return c_millionsOfDeclets[GetDeclet(declets, 2)] + c_thousandsOfDeclets[GetDeclet(declets, 1)] +
-           c_valuesOfDeclets[GetDeclet(declets, 0)];
+    return c_valuesOfDeclets[2][GetDeclet(declets, 2)] + c_valuesOfDeclets[1][GetDeclet(declets, 1)] +
+           c_valuesOfDeclets[0][GetDeclet(declets, 0)];
 }
 
 /// Six declets as up to eighteen digits.
@@ -103,23 +103,48 @@ inline std::uint64_t UnpackLimb(std::uint64_t declets) noexcept
     return UnpackNine(declets >> 30U) * c_billion + UnpackNine(declets);
 }
 
+/// The next three digits of a fraction in 64 bits, as a declet at its place among three.
+inline std::uint32_t TakeDeclet(std::uint64_t& fraction, std::size_t place) noexcept
+{
+    Platform::UInt128 const product = Platform::Multiply(fraction, 1000);
+    fraction = product.low;
+    return c_declets[place][static_cast<std::size_t>(product.high)];
+}
+
+/// Up to eighteen digits: the first three of them, and the others as a fraction.
+struct FirstAndRest
+{
+    std::size_t first;
+    std::uint64_t fraction; // of 2^64
+};
+
+inline FirstAndRest SplitFirst(std::uint64_t value) noexcept
+{
+    // Divided by 10^15: the factor is 2^113 / 10^15, rounded up, and only the product's high word counts. So the
+    // fraction is wrong by less than 2^-53 either way; with that added it is too great by less than a quarter of its
+    // last digit.
+    constexpr unsigned fractionBits = 53;
+    constexpr std::uint64_t factor = 0x901D7CF73AB0ACDA;
+    std::uint64_t const quotient = Platform::Multiply(value << 4U, factor).high;
+    return { static_cast<std::size_t>(quotient >> fractionBits), (quotient + 1) << (64U - fractionBits) };
+}
+
+/// Six declets: the upper one as it stands in its group of three, and the fifteen digits of a fraction.
+inline std::uint64_t PackFraction(std::uint32_t first, std::uint64_t fraction) noexcept
+{
+    std::uint32_t upper = first | TakeDeclet(fraction, 1);
+    upper |= TakeDeclet(fraction, 0);
+    std::uint32_t lower = TakeDeclet(fraction, 2);
+    lower |= TakeDeclet(fraction, 1);
+    lower |= TakeDeclet(fraction, 0);
+    return std::uint64_t{ upper } << 30U | lower;
+}
+
 /// Up to eighteen digits as six declets.
 inline std::uint64_t PackLimb(std::uint64_t value) noexcept
 {
-    // Divided by 10^15; then the fraction, in 64 bits, times 1000 for the next digits. The factor is 2^113 / 10^15,
-    // rounded up, and so is the fraction: what that adds comes to less than a unit of the last digit.
-    constexpr unsigned shift = 49;
-    constexpr std::uint64_t factor = 0x901D7CF73AB0ACDA;
-    Platform::UInt128 const product = Platform::Multiply(value, factor);
-    std::uint64_t declets = c_declets[static_cast<std::size_t>(product.high >> shift)];
-    std::uint64_t fraction = (product.high << (64U - shift) | product.low >> shift) + 1;
-    for (int i = 0; i < 5; ++i)
-    {
-        Platform::UInt128 const next = Platform::Multiply(fraction, 1000);
-        declets = declets << 10U | c_declets[static_cast<std::size_t>(next.high)];
-        fraction = next.low;
-    }
-    return declets;
+    FirstAndRest const split = SplitFirst(value);
+    return PackFraction(c_declets[2][split.first], split.fraction);
 }
 
 /// What the five bits below the sign stand for.
@@ -144,9 +169,23 @@ constexpr auto c_heads = []
     return heads;
 }();
 
+/// Their first digits at their place in the upper limb.
+constexpr auto c_upperDigits = []
+{
+    std::array<std::uint64_t, c_heads.size()> digits{};
+    for (std::size_t bits = 0; bits < digits.size(); ++bits)
+        digits[bits] = c_heads[bits].firstDigit * GetPowerOfTen(c_precision - 1 - c_limbDigits);
+    return digits;
+}();
+
+constexpr std::size_t GetHeadBits(Encoding encoding) noexcept
+{
+    return static_cast<std::size_t>(encoding.high >> 58U & 31U);
+}
+
 constexpr Head const& GetHead(Encoding encoding) noexcept
 {
-    return c_heads[static_cast<std::size_t>(encoding.high >> 58U & 31U)];
+    return c_heads[GetHeadBits(encoding)];
 }
 
 /// Of a finite number.
@@ -191,39 +230,43 @@ inline int CountDigits(Encoding encoding) noexcept
 
 inline Finite Unpack(Encoding encoding) noexcept
 {
-    Coefficient coefficient{ UnpackLimb(GetUpperDeclets(encoding)), UnpackLimb(encoding.low) };
-    coefficient.high += GetFirstDigit(encoding) * GetPowerOfTen(c_precision - 1 - c_limbDigits);
-    return { IsNegative(encoding), GetExponent(encoding), coefficient };
+    std::uint64_t const declets = GetUpperDeclets(encoding);
+    std::uint64_t const upper =
+        c_valuesOfDeclets[1][GetDeclet(declets, 4)] + c_valuesOfDeclets[0][GetDeclet(declets, 3)];
+    std::uint64_t const high = c_upperDigits[GetHeadBits(encoding)] + upper * c_billion + UnpackNine(declets);
+    return { IsNegative(encoding), GetExponent(encoding), { high, UnpackLimb(encoding.low) } };
 }
 
 /// c_heads the other way: for each of the exponent's three highest values sixteen digits, the last six of them none.
+/// The exponent, put in its place as a whole, is taken off where these do not belong.
 constexpr auto c_headBits = []
 {
-    std::array<std::uint8_t, 48> bits{};
-    for (unsigned i = 0; i < bits.size(); ++i)
+    std::array<std::uint64_t, 48> heads{};
+    for (unsigned i = 0; i < heads.size(); ++i)
     {
         unsigned const exponent = i >> 4U;
         unsigned const digit = i & 15U;
-        bits[i] = static_cast<std::uint8_t>(digit < 8 ? exponent << 3U | digit : 24U | exponent << 1U | (digit & 1U));
+        unsigned const bits = digit < 8 ? exponent << 3U | digit : 24U | exponent << 1U | (digit & 1U);
+        heads[i] = (std::uint64_t{ bits } - exponent) << 58U;
     }
-    return bits;
+    return heads;
 }();
 
 /// All but the declets.
 constexpr std::uint64_t PackHead(bool isNegative, int exponent, std::uint64_t firstDigit) noexcept
 {
     auto const biased = static_cast<std::uint64_t>(exponent + c_bias);
-    std::uint64_t const bits = c_headBits[static_cast<std::size_t>(biased >> 12U << 4U | firstDigit)];
-    return (isNegative ? c_signBit : 0) | bits << 58U | (biased & 0xFFFU) << c_exponentShift;
+    std::uint64_t const head = c_headBits[static_cast<std::size_t>(biased >> 12U << 4U | firstDigit)];
+    return (isNegative ? c_signBit : 0) + head + (biased << c_exponentShift);
 }
 
 /// The exponent from c_leastPlainExponent - 33 to c_greatestPlainExponent, the coefficient of up to 34 digits.
 inline Encoding Pack(Finite const& value) noexcept
 {
-    Division const high = DivideByPowerOfTen(value.coefficient.high, c_precision - 1 - c_limbDigits);
-    std::uint64_t const upper = PackLimb(high.remainder);
+    FirstAndRest const high = SplitFirst(value.coefficient.high);
+    std::uint64_t const upper = PackFraction(0, high.fraction);
     return { PackLimb(value.coefficient.low) | upper << c_limbBits,
-             PackHead(value.isNegative, value.exponent, high.quotient) | upper >> 4U };
+             PackHead(value.isNegative, value.exponent, high.first) | upper >> 4U };
 }
 
 constexpr bool IsPlainExponent(int exponent) noexcept
