@@ -139,9 +139,11 @@ TEST(StringHelper, WhitespaceAndIntegers)
 TEST(StringHelper, GrowingKeepsWhatWasThereAndWhatWasWritten)
 {
     std::string text = "kept";
-    Vek::Framework::Utilities::ResizeAndOverwrite(text, 40, [](char* units, std::size_t size) {
-        std::fill(units + 4, units + size, 'x');
-        return size - 30;
-    });
+    Vek::Framework::Utilities::ResizeAndOverwrite(text, 40,
+                                                  [](char* units, std::size_t size)
+                                                  {
+                                                      std::fill(units + 4, units + size, 'x');
+                                                      return size - 30;
+                                                  });
     EXPECT_EQ("keptxxxxxx", text);
 }
