@@ -30,14 +30,8 @@ void SimpleParser::ProvideSource(char const* source)
 {
     if (source == nullptr)
         throw NullPointerException();
-    std::size_t const size = std::strlen(source);
-    m_source.reserve(size + c_padding);
-    m_source.assign(source, size).append(c_padding, '\0');
-    m_sourceSize = size;
+    m_source.Assign(source, std::strlen(source));
     m_recordedSymbols.Clear();
-    m_position = 0;
-    m_line = 1;
-    m_column = 1;
 }
 
 void SimpleParser::ProvideSource(std::string const& source)
@@ -47,12 +41,15 @@ void SimpleParser::ProvideSource(std::string const& source)
 
 bool SimpleParser::AddToken(int id, std::string const& text, std::string const& description, bool isScannable)
 {
+    FinishIdentifier();
     if (!m_tokens.AddToken(id, text, description, isScannable))
         return false;
     Mark(text.front(), TokenStart, true);
     bool const isSure = m_tokens.IsSureToken(text.front());
     Mark(text.front(), SureToken, isSure);
-    Mark(text.front(), LoneToken, isSure && m_tokens.GetLongest(text.front()).GetText().size() == 1);
+    Internal::Token const& longest = m_tokens.GetLongest(text.front());
+    Mark(text.front(), LoneToken, isSure && longest.GetText().size() == 1);
+    m_loneTokenIds[static_cast<unsigned char>(text.front())] = longest.GetId();
     return true;
 }
 
@@ -63,6 +60,7 @@ Internal::Token* SimpleParser::GetToken(int id) const
 
 void SimpleParser::SetCommentToken(std::string const& commentToken)
 {
+    FinishIdentifier();
     std::string marker(commentToken);
     if (!m_commentToken.empty())
         Mark(m_commentToken.front(), CommentStart, false);
@@ -73,6 +71,7 @@ void SimpleParser::SetCommentToken(std::string const& commentToken)
 
 void SimpleParser::SetTextToken(char textToken)
 {
+    FinishIdentifier();
     Mark(m_textToken, TextStart, false);
     m_textToken = textToken;
     Mark(m_textToken, TextStart, true);
@@ -80,11 +79,13 @@ void SimpleParser::SetTextToken(char textToken)
 
 void SimpleParser::SetTabSize(unsigned int tabSize)
 {
+    FinishIdentifier();
     m_tabSize = tabSize;
 }
 
 void SimpleParser::InvokePassThrough()
 {
+    FinishIdentifier();
     m_passThrough = true;
 }
 
@@ -108,8 +109,12 @@ bool SimpleParser::GetAnySymbol(Symbol& symbol)
         symbol.m_text.clear();
         return false;
     }
-    if (symbol.m_symbolType == Symbol::Identifier && IsNumeric(symbol.m_text))
-        symbol.SetKind(Symbol::Number);
+    if (symbol.m_symbolType == Symbol::Identifier &&
+        IsNumeric(symbol.m_text.data(), symbol.m_text.data() + symbol.m_text.size()))
+    {
+        symbol.m_symbolType = Symbol::Number;
+        symbol.m_symbolId = Symbol::Number;
+    }
     return !m_recordSymbols || Record(symbol);
 }
 
@@ -122,7 +127,7 @@ bool SimpleParser::Record(Symbol& symbol)
 
 bool SimpleParser::BuildPassThroughSymbol(Symbol& symbol)
 {
-    while (GetRemainingBytes() != 0)
+    while (m_source.GetRemainingBytes() != 0)
     {
         CalcPosition();
         if (ScanToken(symbol))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <IParser/Internal/ScannedText.h>
 #include <IParser/Internal/SymbolRecord.h>
 #include <IParser/Internal/TokenRegistry.h>
 #include <IParser/Symbol.h>
@@ -85,26 +86,26 @@ private:
         Tab = 128
     };
 
-    // A short text is copied as this many bytes, which saves a call; so many zero bytes stand behind the source.
-    static constexpr std::size_t c_padding = 15;
-
     VEK_LOCAL void Mark(char first, StartFlag flag, bool isSet);
-    VEK_LOCAL unsigned char GetStart() const { return GetStart(*GetPosition()); }
+    VEK_LOCAL unsigned char GetStart() const { return GetStart(*m_source.GetPosition()); }
     VEK_LOCAL unsigned char GetStart(char first) const { return m_starts[static_cast<unsigned char>(first)]; }
-    VEK_LOCAL char const* GetPosition() const { return m_source.data() + m_position; }
-    VEK_LOCAL std::size_t GetRemainingBytes() const { return m_sourceSize - m_position; }
-    VEK_LOCAL void Advance(std::size_t count);
+    VEK_LOCAL char const* FindEndOfRun(char const* at) const;
+    VEK_LOCAL static bool IsSureEnd(unsigned char start);
 
+    VEK_LOCAL void FinishIdentifier();
     VEK_LOCAL bool GetAnySymbol(Symbol& symbol);
-    VEK_LOCAL bool Record(Symbol& symbol);
+    VEK_LOCAL bool GetOtherSymbol(Symbol& symbol, char const* at);
+    VEK_LOCAL bool GetSymbolOrComment(Symbol& symbol, char const* at);
+    VEK_LOCAL bool GetSymbolBehindComment(Symbol& symbol);
+    VEK_LOCAL bool GetToken(Symbol& symbol, char const* at);
     VEK_LOCAL bool GetText(Symbol& symbol);
+    VEK_LOCAL bool GetPlainIdentifier(Symbol& symbol, char const* at);
+    VEK_LOCAL bool GetDoubtfulIdentifier(Symbol& symbol, char const* at, char const* end);
+    VEK_LOCAL bool GetLoneToken(Symbol& symbol, char const* at);
+    template <std::size_t copied>
     VEK_LOCAL bool HandOut(Symbol& symbol, char const* begin, std::size_t size);
     VEK_LOCAL bool HandOutAny(Symbol& symbol, char const* begin, std::size_t size);
-    VEK_LOCAL std::size_t BuildPlainSymbol(Symbol& symbol, int start);
-    VEK_LOCAL std::size_t BuildPlainIdentifier(Symbol& symbol);
-    VEK_LOCAL std::size_t BuildPlainToken(Symbol& symbol);
-    VEK_LOCAL std::size_t BuildLoneToken(Symbol& symbol);
-    VEK_LOCAL void BeginToken(Symbol& symbol, Internal::Token const& token);
+    VEK_LOCAL bool Record(Symbol& symbol);
     VEK_LOCAL bool BuildNextSymbol(Symbol& symbol);
     VEK_LOCAL bool BuildPassThroughSymbol(Symbol& symbol);
     VEK_LOCAL void CalcPosition();
@@ -112,23 +113,21 @@ private:
     VEK_LOCAL void SkipComment();
     VEK_LOCAL bool ScanToken(Symbol& symbol);
     VEK_LOCAL bool ScanText(Symbol& symbol);
+    VEK_LOCAL std::string_view TakeText(Symbol& symbol);
     VEK_LOCAL bool ScanSkipped();
-    VEK_LOCAL void SkipBlanks();
+    VEK_LOCAL char const* SkipBlanks(char const* at);
     VEK_LOCAL void ScanIdentifier(Symbol& symbol);
-    VEK_LOCAL bool IsNumeric(std::string_view text) const;
+    VEK_LOCAL bool IsNumeric(char const* at, char const* end) const;
 
-    std::string m_source = std::string(c_padding, '\0');
-    std::size_t m_sourceSize = 0; // without the padding
-    std::size_t m_position = 0;
-    unsigned long long m_line = 1; // not beside the column: read as a pair, both would wait for their last writes
+    Internal::ScannedText m_source;
     Internal::TokenRegistry m_tokens;
     std::array<unsigned char, 256> m_starts{}; // what can begin with a byte; 0: it belongs to an identifier
+    std::array<int, 256> m_loneTokenIds{};     // by first byte, where it is marked as LoneToken
     char m_decimalPoint;
     std::string m_commentToken;
     char m_textToken = '\0';
     unsigned int m_tabSize = 3;
     bool m_symbolInProgress = false;
-    unsigned long long m_column = 1;
     bool m_passThrough = false;
     bool m_recordSymbols;
     Internal::SymbolRecord m_recordedSymbols;

@@ -68,16 +68,16 @@ private:
     // Everything but the text, which the scanner writes last.
     void Begin(SymbolType symbolType, unsigned long long line, unsigned long long column)
     {
+        Begin(symbolType, static_cast<int>(symbolType), line, column);
+    }
+
+    void Begin(SymbolType symbolType, int symbolId, unsigned long long line, unsigned long long column)
+    {
         m_line = line;
         m_column = column;
         m_prevSymbol = nullptr;
-        SetKind(symbolType);
-    }
-
-    void SetKind(SymbolType symbolType)
-    {
         m_symbolType = symbolType;
-        m_symbolId = static_cast<int>(symbolType);
+        m_symbolId = symbolId;
         m_state = Complete;
         m_hasOwnDescription = false;
     }
