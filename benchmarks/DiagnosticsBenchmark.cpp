@@ -29,7 +29,7 @@ void MeasureScopesWithOurs(benchmark::State& state)
         for (int i = 0; i < c_roundSize; ++i)
             TimeMeasure const measure("Load the document");
     };
-    Run(state, work, Nothing);
+    Run(state, work);
     if (TimeMeasure("Load the document").GetMeasureInfo().GetMeasuresCount() < c_roundSize)
         state.SkipWithError("has not measured");
 }
@@ -45,7 +45,7 @@ void MeasureScopesBare(benchmark::State& state)
             benchmark::DoNotOptimize(Clock::now() - start);
         }
     };
-    Run(state, work, Nothing);
+    Run(state, work);
 }
 
 class EmptySink : public Logger
@@ -67,7 +67,7 @@ void LogToThreeWithOurs(benchmark::State& state)
         for (int i = 0; i < c_roundSize; ++i)
             loggers.Info(c_message);
     };
-    Run(state, work, Nothing);
+    Run(state, work);
 }
 
 /// The interface that LogToFile asks for.

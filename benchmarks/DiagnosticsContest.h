@@ -1,6 +1,6 @@
 #pragma once
 
-#include <benchmark/benchmark.h>
+#include "Contest.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -11,9 +11,18 @@
 namespace Benchmarks
 {
 
-constexpr int c_roundSize = 1000; // of what is measured, in one round
+constexpr int c_roundSize = 10'000; // of what is measured, in one round
 
-/// Rounds of `work`, which does it c_roundSize times, with `clear` between them outside the time.
+/// Rounds of `work`, which does it c_roundSize times.
+template <class Work>
+void Run(benchmark::State& state, Work const& work)
+{
+    for (auto _ : state)
+        work();
+    Report(state, Items{ c_roundSize });
+}
+
+/// With `clear` between them outside the time. To stop and start it counts 0.3 us, under Wine 10.
 template <class Work, class Clear>
 void Run(benchmark::State& state, Work const& work, Clear const& clear)
 {
@@ -24,11 +33,7 @@ void Run(benchmark::State& state, Work const& work, Clear const& clear)
         clear();
         state.ResumeTiming();
     }
-    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * c_roundSize);
-}
-
-inline void Nothing()
-{
+    Report(state, Items{ c_roundSize });
 }
 
 /// A file for one contestant, removed at the end.

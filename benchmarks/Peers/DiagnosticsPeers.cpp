@@ -46,7 +46,7 @@ void LogToThreeWithSpdlog(benchmark::State& state)
         for (int i = 0; i < c_roundSize; ++i)
             logger.info(c_narrowMessage);
     };
-    Run(state, work, Nothing);
+    Run(state, work);
 }
 
 void LogToFileWithSpdlog(benchmark::State& state)

@@ -19,18 +19,16 @@ std::wstring Format(VekDateEx const& value, DateNotation notation)
         throw Vek::ArgumentException();
     if (value.IsZero())
         return {};
-    DateTextWriter writer;
-    writer.PutDate(notation,
-                   { static_cast<std::uint32_t>(value.GetYear()), static_cast<std::uint32_t>(value.GetMonth()),
-                     static_cast<std::uint32_t>(value.GetDay()) });
-    return std::wstring(writer.GetText());
+    return MakeDateText(notation,
+                        { static_cast<std::uint32_t>(value.GetYear()), static_cast<std::uint32_t>(value.GetMonth()),
+                          static_cast<std::uint32_t>(value.GetDay()) });
 }
 
 bool TryParse(std::wstring_view text, DateNotation notation, VekDateEx& value, DateTextFault& fault) noexcept
 {
     DateTextFields fields;
-    fault = text.empty() ? DateTextFault() : ReadDateText(text, notation, c_limits, fields);
-    if (fault.error != DateTextError::None)
+    fault = DateTextFault();
+    if (!text.empty() && !TryReadDateText(text.data(), text.size(), notation, c_limits, fields, fault))
         return false;
     value = VekDateEx(static_cast<int>(fields.date.day), static_cast<int>(fields.date.month),
                       static_cast<int>(fields.date.year));

@@ -34,20 +34,13 @@ SplitTicks SplitChecked(std::uint64_t ticks)
     return Split(ticks);
 }
 
-constexpr bool IsInMonth(std::uint32_t year, std::uint32_t month, std::uint32_t day) noexcept
-{
-    constexpr std::uint32_t always = 28;
-    return day - 1 < always || (day != 0 && day <= GetShortMonthLength(year, month));
-}
-
 /// Throws ArgumentException for fields that are out of range.
 std::uint64_t MakeTicks(int year, unsigned month, unsigned day, unsigned hour, unsigned minute, unsigned second)
 {
-    auto const fullYear = static_cast<std::uint32_t>(year);
-    if (year < c_leastYear || year > c_greatestYear || month - 1 > 11 || !IsInMonth(fullYear, month, day) ||
-        hour > 23 || minute > 59 || second > 59)
+    ShortDate const date{ static_cast<std::uint32_t>(year), month, day };
+    if (year < c_leastYear || year > c_greatestYear || !IsShortDate(date) || hour > 23 || minute > 59 || second > 59)
         throw ArgumentException();
-    return c_ticksPerSecond * (GetSecondsOfDate({ fullYear, month, day }) + ((hour * 60 + minute) * 60 + second));
+    return c_ticksPerSecond * (GetSecondsOfDate(date) + ((hour * 60 + minute) * 60 + second));
 }
 
 /// What a day of a year that begins in March adds to that year to make the first eight bytes of components: the year,

@@ -19,17 +19,13 @@ std::wstring Format(DateTime const& value, DateNotation notation)
     if (value.GetTicks() >= c_endOfTicks)
         throw ArgumentException();
     SplitTicks const split = Split(value.GetTicks());
-    DateTextWriter writer;
-    writer.PutDate(notation, GetDateOfTickDay(split.day));
-    writer.PutTime(notation, split.ticksOfDay);
-    return std::wstring(writer.GetText());
+    return MakeDateText(notation, GetDateOfTickDay(split.day), split.ticksOfDay);
 }
 
 bool TryParse(std::wstring_view text, DateNotation notation, DateTime& value, DateTextFault& fault) noexcept
 {
     DateTextFields fields;
-    fault = ReadDateText(text, notation, c_limits, fields);
-    if (fault.error != DateTextError::None)
+    if (!TryReadDateText(text.data(), text.size(), notation, c_limits, fields, fault))
         return false;
     std::uint64_t const ticks = GetTicksOfDate(fields.date) + fields.ticksOfDay;
     if (ticks >= c_endOfTicks)

@@ -94,6 +94,35 @@ TEST(DateTimeText, NamesTheFirstFault)
         }
 }
 
+// A text with all digits is read at once, one with a longer year field by field: whatever unit is changed, both answer
+// alike. 10,000 years on, the calendar is the same.
+TEST(DateTimeText, ReadsAtOnceAsFieldByField)
+{
+    struct Notation
+    {
+        Parser parse;
+        std::wstring before, year, longYear, after;
+    };
+    Notation const notations[] = { { TryParseIso8601, L"", L"2024-", L"+12024-", L"02-29T23:59" },
+                                   { TryParseGerman, L"29.02.", L"2024 ", L"12024 ", L"23:59" } };
+    for (auto const& [parse, before, year, longYear, after] : notations)
+        for (std::size_t at = 0; at < before.size() + after.size(); ++at)
+            for (int unit = 0; unit < 0x10000; unit += unit < 0x180 ? 1 : 0x101)
+            {
+                std::wstring text = before + after;
+                text[at] = static_cast<wchar_t>(unit);
+                std::wstring longText = text;
+                DateTime value, longValue;
+                DateTextFault fault, longFault;
+                bool const isRead = parse(text.insert(before.size(), year), value, fault);
+                ASSERT_EQ(parse(longText.insert(before.size(), longYear), longValue, longFault), isRead) << text;
+                ASSERT_EQ(static_cast<int>(longFault.error), static_cast<int>(fault.error)) << text;
+                std::size_t const later = fault.position > before.size() ? longYear.size() - year.size() : 0;
+                ASSERT_EQ(longFault.position, fault.position + later) << text;
+                ASSERT_EQ(longValue.GetTicks() - value.GetTicks(), isRead ? 3'652'425 * 864'000'000'000ULL : 0) << text;
+            }
+}
+
 TEST(DateTimeText, WhatIsWrittenIsReadBack)
 {
     std::mt19937_64 random(3);

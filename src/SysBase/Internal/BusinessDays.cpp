@@ -49,7 +49,7 @@ YearDay Add(YearDay day, long long days)
     if (index >= 0 && index < 365)
         return { day.year, static_cast<int>(index) };
     long long const number = Civil::GetDayNumber(day.year, 1, index + 1);
-    long long const year = Civil::GetCivilDate(number).year;
+    auto const year = static_cast<int>(Civil::GetCivilDate(number).year);
     return { year, static_cast<int>(number - Civil::GetDayNumber(year, 1, 1)) };
 }
 

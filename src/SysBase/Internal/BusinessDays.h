@@ -9,10 +9,11 @@
 namespace VekSysBase::Internal
 {
 
-/// A day by its year and its place in it, from 0 for 1 January.
+/// A day by its year and its place in it, from 0 for 1 January. Both go in one register, also on Win64; the years that
+/// 2^33 days reach fit.
 struct YearDay
 {
-    long long year;
+    int year;
     int index;
 };
 

@@ -61,6 +61,16 @@ constexpr std::uint32_t GetShortMonthLength(std::uint32_t year, std::uint32_t mo
     return 30 + ((month ^ (month >> 3U)) & 1U);
 }
 
+/// In leap years.
+constexpr std::uint8_t c_greatestMonthLengths[] = { 0, 31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31 };
+
+/// Whether there is the day; of any fields.
+constexpr bool IsShortDate(ShortDate const& date)
+{
+    return date.month <= 12 && date.day - 1 < c_greatestMonthLengths[date.month] &&
+           (date.day != 29 || date.month != 2 || GetShortMonthLength(date.year, 2) == 29);
+}
+
 /// Days from 1 March of the year 0. Years begin in March, so that the leap day is a year's last; January and February
 /// are months 13 and 14 of the year before. Not before that day.
 constexpr std::uint32_t GetShortDay(std::uint32_t year, std::uint32_t month, std::uint32_t day)

@@ -1,6 +1,10 @@
 #include <Utilities/Internal/DateText.h>
 
+#include <Utilities/Internal/DateTextHead.h>
+#include <Utilities/Internal/ResizeAndOverwrite.h>
 #include <Utilities/Internal/TickCalendar.h>
+
+#include <algorithm>
 
 namespace Vek::Framework::Utilities::Internal
 {
@@ -10,7 +14,6 @@ namespace
 
 constexpr std::uint32_t c_firstLongYear = 10'000;
 constexpr std::size_t c_fractionDigits = 7;
-constexpr wchar_t c_dateMark = L'T';
 
 constexpr bool IsDigit(wchar_t unit) noexcept
 {
@@ -45,20 +48,26 @@ constexpr FieldRange c_sixtieths{ 0, 59 };
 class Reader
 {
 public:
-    Reader(std::wstring_view text, DateTextLimits const& limits) noexcept : m_text(text), m_limits(limits) {}
+    Reader(wchar_t const* units, std::size_t size, DateTextLimits const& limits, DateTextFault& fault) noexcept
+        : m_units(units),
+          m_size(size),
+          m_limits(limits),
+          m_fault(fault)
+    {
+        m_fault = DateTextFault();
+    }
 
-    DateTextFault const& Read(DateNotation notation, DateTextFields& fields) noexcept
+    bool Read(DateNotation notation, DateTextFields& fields) noexcept
     {
         bool const isIso = notation == DateNotation::Iso;
-        if ((isIso ? ReadIsoDate(fields.date) : ReadGermanDate(fields.date)) &&
-            (!m_limits.hasTime || ReadTime(isIso, fields.ticksOfDay)) && !IsAtEnd())
-            Fail(isIso && BeginsZone(Peek()) ? DateTextError::TimeZone : DateTextError::WrongUnit, m_at);
-        return m_fault;
+        return (TakeHead(notation, fields) ? ReadSecond(isIso, fields.ticksOfDay) : ReadFields(isIso, fields)) &&
+               (IsAtEnd() ||
+                Fail(isIso && BeginsZone(Peek()) ? DateTextError::TimeZone : DateTextError::WrongUnit, m_at));
     }
 
 private:
-    bool IsAtEnd() const noexcept { return m_at == m_text.size(); }
-    wchar_t Peek() const noexcept { return m_text[m_at]; }
+    bool IsAtEnd() const noexcept { return m_at == m_size; }
+    wchar_t Peek() const noexcept { return m_units[m_at]; }
 
     bool Fail(DateTextError error, std::size_t position) noexcept
     {
@@ -83,7 +92,7 @@ private:
     {
         Field field;
         for (field.position = m_at; field.digits < most && !IsAtEnd() && IsDigit(Peek()); ++field.digits)
-            field.value = field.value * 10 + static_cast<std::uint32_t>(m_text[m_at++] - L'0');
+            field.value = field.value * 10 + static_cast<std::uint32_t>(m_units[m_at++] - L'0');
         return field;
     }
 
@@ -104,6 +113,25 @@ private:
     {
         field = TakeDigits(2);
         return (field.digits >= leastDigits || FailHere()) && Require(field, range);
+    }
+
+    /// False, and nothing is taken, for other texts and for those with a fault: they are read field by field.
+    bool TakeHead(DateNotation notation, DateTextFields& fields) noexcept
+    {
+        TimeOfDay time{};
+        if (!m_limits.hasTime || m_size < c_headSize || !TryReadHead(m_units, notation, fields.date, time) ||
+            fields.date.year < m_limits.leastYear || fields.date.year > m_limits.greatestYear ||
+            !IsShortDate(fields.date) || time.hour > c_hours.greatest || time.minute > c_sixtieths.greatest)
+            return false;
+        fields.ticksOfDay = GetTicksOfTime(time);
+        m_at = c_headSize;
+        return true;
+    }
+
+    bool ReadFields(bool isIso, DateTextFields& fields) noexcept
+    {
+        return (isIso ? ReadIsoDate(fields.date) : ReadGermanDate(fields.date)) &&
+               (!m_limits.hasTime || ReadTime(isIso, fields.ticksOfDay));
     }
 
     bool ReadIsoDate(ShortDate& date) noexcept
@@ -158,14 +186,24 @@ private:
 
     bool ReadTime(bool isIso, std::uint64_t& ticksOfDay) noexcept
     {
-        if (!Take(isIso ? c_dateMark : L' '))
+        if (!Take(isIso ? L'T' : L' '))
             return true;
-        Field hour, minute, second, fraction;
+        Field hour, minute;
         if (!ReadField(isIso ? 2 : 1, c_hours, hour) || !Expect(L':') || !ReadField(2, c_sixtieths, minute))
             return false;
-        if (Take(L':') && (!ReadField(2, c_sixtieths, second) || (isIso && !ReadFraction(fraction))))
+        ticksOfDay = GetTicksOfTime({ hour.value, minute.value, 0 });
+        return ReadSecond(isIso, ticksOfDay);
+    }
+
+    /// If there is one.
+    bool ReadSecond(bool isIso, std::uint64_t& ticksOfDay) noexcept
+    {
+        if (!Take(L':'))
+            return true;
+        Field second, fraction;
+        if (!ReadField(2, c_sixtieths, second) || (isIso && !ReadFraction(fraction)))
             return false;
-        ticksOfDay = c_ticksPerSecond * ((hour.value * 60 + minute.value) * 60 + second.value) + fraction.value;
+        ticksOfDay += c_ticksPerSecond * second.value + fraction.value;
         return true;
     }
 
@@ -180,10 +218,11 @@ private:
         return fraction.digits != 0 || FailHere();
     }
 
-    std::wstring_view m_text;
+    wchar_t const* m_units;
+    std::size_t m_size;
     std::size_t m_at = 0;
-    DateTextLimits m_limits;
-    DateTextFault m_fault;
+    DateTextLimits const& m_limits;
+    DateTextFault& m_fault;
 };
 
 constexpr wchar_t ToDigit(std::uint32_t value) noexcept
@@ -191,71 +230,88 @@ constexpr wchar_t ToDigit(std::uint32_t value) noexcept
     return static_cast<wchar_t>(L'0' + value);
 }
 
-} // namespace
+constexpr std::size_t c_timeSize = 6;       // of a head: T14:30
+constexpr std::size_t c_longestSecond = 11; // :59.9999999
 
-DateTextFault ReadDateText(std::wstring_view text, DateNotation notation, DateTextLimits const& limits,
-                           DateTextFields& fields) noexcept
+/// Of a head, the sign and the fifth digit of a long year included.
+constexpr std::size_t GetGreatestHeadSize(std::uint32_t year) noexcept
 {
-    return Reader(text, limits).Read(notation, fields);
+    return year < c_firstLongYear ? c_headSize : c_headSize + 2;
 }
 
-void DateTextWriter::PutDate(DateNotation notation, ShortDate const& date) noexcept
+/// Years up to 99999. Answers the end; room for GetGreatestHeadSize units.
+wchar_t* WriteToMinute(wchar_t* target, DateNotation notation, ShortDate date, TimeOfDay const& time) noexcept
 {
-    if (notation == DateNotation::German)
+    std::uint32_t const fifthDigit = date.year / c_firstLongYear;
+    date.year %= c_firstLongYear;
+    if (fifthDigit != 0 && notation == DateNotation::Iso)
     {
-        PutTwo(date.day);
-        Put(L'.');
-        PutTwo(date.month);
-        Put(L'.');
-        PutYear(date.year);
-        return;
+        *target++ = L'+';
+        *target++ = ToDigit(fifthDigit);
     }
-    if (date.year >= c_firstLongYear)
-        Put(L'+');
-    PutYear(date.year);
-    Put(L'-');
-    PutTwo(date.month);
-    Put(L'-');
-    PutTwo(date.day);
+    WriteHead(target, notation, date, time);
+    wchar_t* const end = target + c_headSize;
+    if (fifthDigit == 0 || notation == DateNotation::Iso)
+        return end;
+    wchar_t* const year = target + 6;
+    std::copy_backward(year, end, end + 1);
+    *year = ToDigit(fifthDigit);
+    return end + 1;
 }
 
-void DateTextWriter::PutTime(DateNotation notation, std::uint64_t ticksOfDay) noexcept
+/// Answers the end; room for c_longestSecond units.
+wchar_t* WriteSecond(wchar_t* target, std::uint32_t second, std::uint32_t ticks) noexcept
 {
-    TimeOfDay const time = GetTimeOfDay(static_cast<std::uint32_t>(ticksOfDay / c_ticksPerSecond));
-    Put(notation == DateNotation::Iso ? c_dateMark : L' ');
-    PutTwo(time.hour);
-    Put(L':');
-    PutTwo(time.minute);
-    if (notation == DateNotation::German)
-        return;
-    Put(L':');
-    PutTwo(time.second);
-    if (std::uint64_t const fraction = ticksOfDay % c_ticksPerSecond; fraction != 0)
-        PutFraction(static_cast<std::uint32_t>(fraction));
-}
-
-void DateTextWriter::PutTwo(std::uint32_t value) noexcept
-{
-    Put(ToDigit(value / 10));
-    Put(ToDigit(value % 10));
-}
-
-void DateTextWriter::PutYear(std::uint32_t year) noexcept
-{
-    if (year >= c_firstLongYear)
-        Put(ToDigit(year / c_firstLongYear));
-    PutTwo(year / 100 % 100);
-    PutTwo(year % 100);
-}
-
-void DateTextWriter::PutFraction(std::uint32_t ticks) noexcept
-{
-    Put(L'.');
+    *target++ = L':';
+    *target++ = ToDigit(second / 10);
+    *target++ = ToDigit(second % 10);
+    if (ticks == 0)
+        return target;
+    *target++ = L'.';
     for (std::uint32_t unit = static_cast<std::uint32_t>(c_ticksPerSecond) / 10; ticks != 0; unit /= 10)
     {
-        Put(ToDigit(ticks / unit));
+        *target++ = ToDigit(ticks / unit);
         ticks %= unit;
     }
+    return target;
+}
+
+/// `write` answers the end.
+template <class Write>
+std::wstring MakeText(std::size_t room, Write const& write)
+{
+    std::wstring text;
+    ResizeAndOverwrite(text, room,
+                       [&](wchar_t* units, std::size_t) { return static_cast<std::size_t>(write(units) - units); });
+    return text;
+}
+
+} // namespace
+
+bool TryReadDateText(wchar_t const* units, std::size_t size, DateNotation notation, DateTextLimits const& limits,
+                     DateTextFields& fields, DateTextFault& fault) noexcept
+{
+    return Reader(units, size, limits, fault).Read(notation, fields);
+}
+
+std::wstring MakeDateText(DateNotation notation, ShortDate const& date)
+{
+    return MakeText(GetGreatestHeadSize(date.year),
+                    [&](wchar_t* units) { return WriteToMinute(units, notation, date, TimeOfDay()) - c_timeSize; });
+}
+
+std::wstring MakeDateText(DateNotation notation, ShortDate const& date, std::uint64_t ticksOfDay)
+{
+    TimeOfDay const time = GetTimeOfDay(static_cast<std::uint32_t>(ticksOfDay / c_ticksPerSecond));
+    if (notation == DateNotation::German)
+        return MakeText(GetGreatestHeadSize(date.year),
+                        [&](wchar_t* units) { return WriteToMinute(units, notation, date, time); });
+    return MakeText(GetGreatestHeadSize(date.year) + c_longestSecond,
+                    [&](wchar_t* units)
+                    {
+                        wchar_t* const end = WriteToMinute(units, notation, date, time);
+                        return WriteSecond(end, time.second, static_cast<std::uint32_t>(ticksOfDay % c_ticksPerSecond));
+                    });
 }
 
 } // namespace Vek::Framework::Utilities::Internal

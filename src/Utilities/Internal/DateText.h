@@ -6,7 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
+#include <string>
 
 namespace Vek::Framework::Utilities::Internal
 {
@@ -31,29 +31,15 @@ struct DateTextFields
     std::uint64_t ticksOfDay = 0;
 };
 
-/// The fields of a date that exists, or the first fault; the fields mean nothing then.
-DateTextFault ReadDateText(std::wstring_view text, DateNotation notation, DateTextLimits const& limits,
-                           DateTextFields& fields) noexcept;
+/// False, and the fields mean nothing, if the text is no date that exists; `fault` is the first one then, or none. The
+/// text's two words come by themselves: as a view they would be stored one by one for Win64 and loaded as one, for
+/// which processors wait.
+bool TryReadDateText(wchar_t const* units, std::size_t size, DateNotation notation, DateTextLimits const& limits,
+                     DateTextFields& fields, DateTextFault& fault) noexcept;
 
-/// Room for the longest text: +30827-12-31T23:59:59.9999999.
-class DateTextWriter
-{
-public:
-    /// Years up to 99999; with four digits at least, from 10000 on with five and, in ISO 8601, a plus sign.
-    void PutDate(DateNotation notation, ShortDate const& date) noexcept;
-    /// With what stands before it. German drops what is below a minute.
-    void PutTime(DateNotation notation, std::uint64_t ticksOfDay) noexcept;
-
-    std::wstring_view GetText() const noexcept { return { m_units, m_size }; }
-
-private:
-    void Put(wchar_t unit) noexcept { m_units[m_size++] = unit; }
-    void PutTwo(std::uint32_t value) noexcept;
-    void PutYear(std::uint32_t year) noexcept;
-    void PutFraction(std::uint32_t ticks) noexcept;
-
-    wchar_t m_units[29];
-    std::size_t m_size = 0;
-};
+/// Of years up to 99999: with four digits at least, from 10000 on with five and, in ISO 8601, a plus sign.
+std::wstring MakeDateText(DateNotation notation, ShortDate const& date);
+/// With the time of day; German drops what is below a minute.
+std::wstring MakeDateText(DateNotation notation, ShortDate const& date, std::uint64_t ticksOfDay);
 
 } // namespace Vek::Framework::Utilities::Internal

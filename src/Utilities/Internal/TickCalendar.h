@@ -81,4 +81,9 @@ constexpr TimeOfDay GetTimeOfDay(std::uint32_t second)
              static_cast<std::uint32_t>(seconds >> 32U) };
 }
 
+constexpr std::uint64_t GetTicksOfTime(TimeOfDay const& time)
+{
+    return c_ticksPerSecond * ((time.hour * 60 + time.minute) * 60 + time.second);
+}
+
 } // namespace Vek::Framework::Utilities::Internal
