@@ -5,5 +5,6 @@ namespace Vek::Platform
 {
 
 bool HasSsse3() noexcept;
+bool HasAvx2() noexcept; // and SSSE3
 
 } // namespace Vek::Platform

@@ -3,9 +3,9 @@
 #include <Platform/Attributes.h>
 #include <Platform/Processor.h>
 #include <Platform/WideBlock.h>
+#include <Platform/WideBlockAvx2.h>
 
 #include <array>
-#include <tmmintrin.h>
 
 namespace Vek::Platform
 {
@@ -78,7 +78,7 @@ VEK_NEEDS("ssse3") char* EncodeLanes(__m128i lanes, char* target) noexcept
 }
 
 VEK_NEEDS("ssse3")
-EncodedUnits EncodeWithSsse3(wchar_t const* units, std::size_t size, char* target) noexcept
+ConvertedText EncodeWithSsse3(wchar_t const* units, std::size_t size, char* target) noexcept
 {
     char* at = target;
     std::size_t taken = 0;
@@ -98,7 +98,7 @@ EncodedUnits EncodeWithSsse3(wchar_t const* units, std::size_t size, char* targe
     return { taken, static_cast<std::size_t>(at - target) };
 }
 
-EncodedUnits NarrowAscii(wchar_t const* units, std::size_t size, char* target) noexcept
+std::size_t NarrowWithSse2(wchar_t const* units, std::size_t size, char* target) noexcept
 {
     std::size_t taken = 0;
     for (; size - taken >= c_unitsInBlock; taken += c_unitsInBlock)
@@ -108,14 +108,37 @@ EncodedUnits NarrowAscii(wchar_t const* units, std::size_t size, char* target) n
             break;
         StoreBytes(target + taken, block.bytes);
     }
-    return { taken, taken };
+    return taken;
+}
+
+VEK_NEEDS("avx2")
+std::size_t NarrowWithAvx2(wchar_t const* units, std::size_t size, char* target) noexcept
+{
+    constexpr std::size_t c_needed = 2 * c_unitsInBlock;
+    std::size_t taken = 0;
+    for (; size - taken >= c_needed; taken += c_needed)
+    {
+        NarrowedUnits const block = NarrowByAvx2(units + taken);
+        if (_mm256_movemask_epi8(block.others) != 0)
+            break;
+        _mm256_storeu_si256(reinterpret_cast<__m256i*>(target + taken), block.bytes);
+    }
+    return taken;
 }
 
 } // namespace
 
-EncodedUnits EncodeUtf8Blocks(wchar_t const* units, std::size_t size, char* target) noexcept
+ConvertedText EncodeUtf8Blocks(wchar_t const* units, std::size_t size, char* target) noexcept
 {
-    return HasSsse3() ? EncodeWithSsse3(units, size, target) : NarrowAscii(units, size, target);
+    if (HasSsse3())
+        return EncodeWithSsse3(units, size, target);
+    std::size_t const taken = NarrowWithSse2(units, size, target);
+    return { taken, taken };
+}
+
+std::size_t NarrowAsciiBlocks(wchar_t const* units, std::size_t size, char* target) noexcept
+{
+    return HasAvx2() ? NarrowWithAvx2(units, size, target) : NarrowWithSse2(units, size, target);
 }
 
 } // namespace Vek::Platform

@@ -4,6 +4,7 @@
 #include <Exceptions/NullPointerException.h>
 #include <Platform/Base64Blocks.h>
 #include <Platform/WideBlock.h>
+#include <Utilities/Internal/ResizeAndOverwrite.h>
 
 #include <algorithm>
 #include <array>
@@ -20,8 +21,6 @@ namespace
 
 constexpr std::string_view c_symbols = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 constexpr wchar_t c_filler = L'=';
-// Text is filled piece by piece, so that what the resizing wrote is still in the cache when the symbols follow.
-constexpr std::size_t c_pieceSize = 3 * 1024;
 
 struct SymbolPair
 {
@@ -49,7 +48,7 @@ constexpr auto c_values = []
     return values;
 }();
 
-wchar_t* EncodeGroup(unsigned bits, wchar_t* target)
+wchar_t* EncodeGroup(unsigned bits, wchar_t* target) noexcept
 {
     SymbolPair const high = c_pairs[bits >> 12];
     SymbolPair const low = c_pairs[bits & 0xFFF];
@@ -60,23 +59,21 @@ wchar_t* EncodeGroup(unsigned bits, wchar_t* target)
     return target + 4;
 }
 
-/// Only the last piece may have a size that is no multiple of 3.
-void AppendEncoded(unsigned char const* data, std::size_t size, std::wstring& text)
+/// Answers the end of the symbols.
+wchar_t* EncodeAll(unsigned char const* data, std::size_t size, wchar_t* target) noexcept
 {
-    std::size_t const start = text.size();
-    text.resize(start + (size / 3 + (size % 3 != 0)) * 4, c_filler);
-    wchar_t* target = text.data() + start;
     std::size_t const taken = Platform::EncodeBase64Blocks(data, size, target);
     target += taken / 3 * 4;
     unsigned char const* const end = data + size / 3 * 3;
     for (data += taken; data != end; data += 3)
         target = EncodeGroup(static_cast<unsigned>(data[0] << 16 | data[1] << 8 | data[2]), target);
     if (size % 3 == 0)
-        return;
+        return target;
 
-    wchar_t group[4];
-    EncodeGroup(static_cast<unsigned>(data[0] << 16 | (size % 3 == 2 ? data[1] << 8 : 0)), group);
-    std::copy_n(group, size % 3 + 1, target); // the fillers stand there already
+    bool const hasTwo = size % 3 == 2;
+    EncodeGroup(static_cast<unsigned>(data[0] << 16 | (hasTwo ? data[1] << 8 : 0)), target);
+    std::fill(target + (hasTwo ? 3 : 2), target + 4, c_filler);
+    return target + 4;
 }
 
 int GetValue(wchar_t symbol)
@@ -125,14 +122,9 @@ std::wstring Base64::Encode(unsigned char const* data, unsigned long long size)
     if (data == nullptr && size != 0)
         throw NullPointerException();
     std::wstring text;
-    text.reserve((size / 3 + (size % 3 != 0)) * 4);
-    unsigned char const* const end = data + size;
-    while (data != end)
-    {
-        std::size_t const piece = std::min(static_cast<std::size_t>(end - data), c_pieceSize);
-        AppendEncoded(data, piece, text);
-        data += piece;
-    }
+    ResizeAndOverwrite(text, (size / 3 + (size % 3 != 0)) * 4,
+                       [=](wchar_t* units, std::size_t)
+                       { return static_cast<std::size_t>(EncodeAll(data, size, units) - units); });
     return text;
 }
 

@@ -11,13 +11,13 @@
 namespace Vek::Framework::Utilities
 {
 
-/// The values of the 8-bit characters as hexadecimal digits, 0x100 for what is none. A table, because which kind of
+/// The values of the 8-bit characters as hexadecimal digits, negative for what is none. A table, because which kind of
 /// digit comes next no processor can foretell, and compilers make branches of comparisons.
-inline constexpr std::array<unsigned short, 256> c_hexDigitValues = []
+inline constexpr std::array<int, 256> c_hexDigitValues = []
 {
-    std::array<unsigned short, 256> values{};
-    values.fill(0x100);
-    for (unsigned short value = 0; value < 16; ++value)
+    std::array<int, 256> values{};
+    values.fill(-1);
+    for (int value = 0; value < 16; ++value)
     {
         values[static_cast<unsigned char>("0123456789abcdef"[value])] = value;
         values[static_cast<unsigned char>("0123456789ABCDEF"[value])] = value;
@@ -43,9 +43,8 @@ public:
         unsigned const low = static_cast<unsigned>(text[2 * index + 1]);
         if ((high | low) > 0xFF)
             Refuse(text, index);
-        unsigned const highValue = c_hexDigitValues[high];
-        unsigned const value = highValue << 4U | c_hexDigitValues[low];
-        if (value > 0xFF)
+        int const value = c_hexDigitValues[high] * 16 | c_hexDigitValues[low];
+        if (value < 0)
             Refuse(text, index);
         return static_cast<unsigned char>(value);
     }

@@ -1,10 +1,10 @@
 #include <Platform/Utf8Blocks.h>
 #include <Platform/WideBlock.h>
+#include <Utilities/Internal/ResizeAndOverwrite.h>
 #include <Utilities/Internal/Surrogates.h>
 #include <Utilities/WStringHelper.h>
 
 #include <algorithm>
-#include <bit>
 #include <cstdint>
 #include <stdexcept>
 #include <string_view>
@@ -34,22 +34,6 @@ unsigned char const* GetBytes(std::string const& text) noexcept
     return reinterpret_cast<unsigned char const*>(text.data());
 }
 
-bool IsAscii(std::string const& text) noexcept
-{
-    auto const size = static_cast<std::ptrdiff_t>(text.size());
-    std::ptrdiff_t at = 0;
-    for (; size - at >= 4 * c_blockSize; at += 4 * c_blockSize)
-    {
-        __m128i bytes = _mm_setzero_si128();
-        for (std::ptrdiff_t block = 0; block < 4; ++block)
-            bytes = _mm_or_si128(bytes, Platform::LoadBytes(text.data() + at + block * c_blockSize));
-        if (Platform::GetSignBits(bytes) != 0)
-            return false;
-    }
-    return std::all_of(text.begin() + at, text.end(),
-                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-}
-
 /// A result lives longer than the conversion: what is much more than it needs is given back.
 template <class Text>
 void DropSpareMemory(Text& text)
@@ -59,67 +43,34 @@ void DropSpareMemory(Text& text)
         text.shrink_to_fit();
 }
 
-/// Decodes UTF-8 piece by piece: what the text gains in size is written while the first-level cache still has it.
 class Utf8Decoder
 {
 public:
     explicit Utf8Decoder(std::string const& text) noexcept : m_at(GetBytes(text)), m_end(m_at + text.size()) {}
 
-    /// Appends the units to `units`. False at the first malformed sequence, where GetPosition stays.
-    bool Run(std::wstring& units)
+    /// Writes the units from `target` on, which has room for one of every byte: no sequence gives more. Answers their
+    /// end, null at the first malformed sequence, where GetPosition stays.
+    wchar_t* Run(wchar_t* target) noexcept
     {
-        units.reserve(static_cast<std::size_t>(m_end - m_at)); // no sequence gives more
+        m_target = target;
         bool isWellFormed = true;
-        while (isWellFormed && m_at != m_end)
+        while (isWellFormed && m_end - m_at >= c_blockSize)
         {
-            std::size_t const start = units.size();
-            m_pieceEnd = m_at + std::min(m_end - m_at, c_pieceSize);
-            units.resize(start + static_cast<std::size_t>(std::min(m_end - m_at, c_pieceSize + c_longestTrail)));
-            m_target = units.data() + start;
-            isWellFormed = DecodePiece();
-            units.resize(static_cast<std::size_t>(m_target - units.data()));
+            auto const [units, bytes] =
+                Platform::DecodeUtf8Blocks(m_at, static_cast<std::size_t>(m_end - m_at), m_target);
+            m_at += bytes;
+            m_target += units;
+            while (isWellFormed && m_at < m_end && *m_at >= 0x80)
+                isWellFormed = DecodeCharacter();
         }
-        return isWellFormed;
+        while (isWellFormed && m_at < m_end)
+            isWellFormed = DecodeCharacter();
+        return isWellFormed ? m_target : nullptr;
     }
 
     unsigned char const* GetPosition() const noexcept { return m_at; }
 
 private:
-    static constexpr std::ptrdiff_t c_pieceSize = 2048;
-    static constexpr std::ptrdiff_t c_longestTrail = 3; // the last sequence of a piece may end behind it
-
-    bool DecodePiece()
-    {
-        bool isWellFormed = true;
-        while (isWellFormed && m_pieceEnd - m_at >= c_blockSize)
-        {
-            WidenAscii();
-            while (isWellFormed && m_at < m_pieceEnd && *m_at >= 0x80)
-                isWellFormed = DecodeCharacter();
-        }
-        while (isWellFormed && m_at < m_pieceEnd)
-            isWellFormed = DecodeCharacter();
-        return isWellFormed;
-    }
-
-    /// Takes the bytes before the next other character, or all but the last few: stores sixteen units without asking
-    /// and keeps those before the first other one. Locals, since the stores might else change the fields.
-    void WidenAscii()
-    {
-        unsigned char const* at = m_at;
-        wchar_t* target = m_target;
-        unsigned others = 0;
-        for (; others == 0 && m_pieceEnd - at >= c_blockSize; at += c_blockSize, target += c_blockSize)
-        {
-            __m128i const bytes = Platform::LoadBytes(at);
-            Platform::StoreWidened(target, bytes);
-            others = Platform::GetSignBits(bytes);
-        }
-        std::ptrdiff_t const surplus = others == 0 ? 0 : c_blockSize - std::countr_zero(others);
-        m_at = at - surplus;
-        m_target = target - surplus;
-    }
-
     /// False leaves the position in front of the character.
     bool DecodeCharacter() noexcept
     {
@@ -180,7 +131,6 @@ private:
     void Append(unsigned unit) noexcept { *m_target++ = static_cast<wchar_t>(unit); }
 
     unsigned char const* m_at;
-    unsigned char const* m_pieceEnd = nullptr;
     unsigned char const* m_end;
     wchar_t* m_target = nullptr;
 };
@@ -199,6 +149,8 @@ public:
         if (m_at != m_end)
             result.reserve(EstimateSize(m_at - begin));
         result.append(m_buffer, GetPieceSize());
+        if (GetPieceSize() == static_cast<std::size_t>(m_at - begin))
+            AppendAscii(result);
         while (m_at != m_end)
         {
             EncodePiece();
@@ -220,6 +172,17 @@ private:
         double const bytesPerUnit = static_cast<double>(GetPieceSize()) / static_cast<double>(firstUnits);
         double const estimate = static_cast<double>(m_end - m_at) * (bytesPerUnit + 1.0 / 32);
         return GetPieceSize() + static_cast<std::size_t>(estimate);
+    }
+
+    /// What goes on as ASCII needs no buffer.
+    void AppendAscii(std::string& result)
+    {
+        std::size_t const start = result.size();
+        std::size_t const left = static_cast<std::size_t>(m_end - m_at);
+        ResizeAndOverwrite(result, start + left,
+                           [&](char* bytes, std::size_t)
+                           { return start + Platform::NarrowAsciiBlocks(m_at, left, bytes + start); });
+        m_at += result.size() - start;
     }
 
     void EncodePiece()
@@ -293,15 +256,17 @@ std::wstring WStringHelper::GetUTF16FromUTF8(std::string const& text)
 bool WStringHelper::TryGetUTF16FromUTF8(std::string const& text, std::wstring& result,
                                         unsigned long long& errorPosition)
 {
-    if (IsAscii(text))
-    {
-        // Made by its constructor: filling it first would store every unit twice.
-        result = std::wstring(GetBytes(text), GetBytes(text) + text.size());
-        return true;
-    }
     Utf8Decoder decoder(text);
     std::wstring units;
-    if (!decoder.Run(units))
+    bool isWellFormed = false;
+    ResizeAndOverwrite(units, text.size(),
+                       [&](wchar_t* target, std::size_t)
+                       {
+                           wchar_t* const end = decoder.Run(target);
+                           isWellFormed = end != nullptr;
+                           return isWellFormed ? static_cast<std::size_t>(end - target) : 0;
+                       });
+    if (!isWellFormed)
     {
         errorPosition = static_cast<unsigned long long>(decoder.GetPosition() - GetBytes(text));
         return false;

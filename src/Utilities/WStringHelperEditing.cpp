@@ -1,6 +1,8 @@
 #include <Exceptions/NullPointerException.h>
+#include <Platform/HexBlocks.h>
 #include <Platform/NeverDestroyed.h>
 #include <Platform/WideBlock.h>
+#include <Utilities/Internal/ResizeAndOverwrite.h>
 #include <Utilities/Internal/TextReplacement.h>
 #include <Utilities/WStringHelper.h>
 
@@ -41,29 +43,9 @@ std::int64_t ParseDigits(wchar_t const* digit, std::int64_t limit) noexcept
     return std::min(value, limit);
 }
 
-constexpr std::size_t c_hexBlockSize = 16; // bytes
-// Long data goes piece by piece, so that what the resizing wrote is still in the cache when the digits follow.
-constexpr std::size_t c_hexPieceSize = 32 * c_hexBlockSize;
-
 wchar_t GetHexDigit(unsigned value) noexcept
 {
     return static_cast<wchar_t>(value < 10 ? '0' + value : 'A' - 10 + value);
-}
-
-__m128i GetHexDigits(__m128i values) noexcept
-{
-    __m128i const isLetter = _mm_cmpgt_epi8(values, _mm_set1_epi8(9));
-    __m128i const offset = _mm_and_si128(isLetter, _mm_set1_epi8('A' - 10 - '0'));
-    return _mm_add_epi8(_mm_add_epi8(values, _mm_set1_epi8('0')), offset);
-}
-
-void StoreHexBlock(__m128i bytes, wchar_t* target) noexcept
-{
-    __m128i const nibble = _mm_set1_epi8(0x0F);
-    __m128i const high = GetHexDigits(_mm_and_si128(_mm_srli_epi16(bytes, 4), nibble));
-    __m128i const low = GetHexDigits(_mm_and_si128(bytes, nibble));
-    Platform::StoreWidened(target, _mm_unpacklo_epi8(high, low));
-    Platform::StoreWidened(target + c_hexBlockSize, _mm_unpackhi_epi8(high, low));
 }
 
 /// True for an address within the text's own memory, which moves when the text grows.
@@ -74,16 +56,17 @@ bool LiesIn(std::wstring const& text, unsigned char const* data) noexcept
     return std::less_equal<>()(begin, data) && std::less<>()(data, end);
 }
 
-void StoreHex(unsigned char const* data, std::size_t size, wchar_t* target) noexcept
+/// Answers the end of the digits.
+wchar_t* StoreHex(unsigned char const* data, std::size_t size, wchar_t* target) noexcept
 {
-    unsigned char const* const end = data + size;
-    for (; static_cast<std::size_t>(end - data) >= c_hexBlockSize; data += c_hexBlockSize, target += 2 * c_hexBlockSize)
-        StoreHexBlock(Platform::LoadBytes(data), target);
-    for (; data != end; ++data)
+    std::size_t const taken = Platform::EncodeHexBlocks(data, size, target);
+    target += 2 * taken;
+    for (std::size_t at = taken; at != size; ++at)
     {
-        *target++ = GetHexDigit(*data >> 4U);
-        *target++ = GetHexDigit(*data & 15U);
+        *target++ = GetHexDigit(data[at] >> 4U);
+        *target++ = GetHexDigit(data[at] & 15U);
     }
+    return target;
 }
 
 } // namespace
@@ -151,14 +134,10 @@ void WStringHelper::AppendHex(unsigned char const* data, unsigned int size, std:
         std::vector<unsigned char> const copy(data, data + size);
         return AppendHex(copy.data(), size, target);
     }
-    target.reserve(target.size() + 2 * static_cast<std::size_t>(size));
-    for (std::size_t at = 0; at < size; at += c_hexPieceSize)
-    {
-        std::size_t const piece = std::min(size - at, c_hexPieceSize);
-        std::size_t const start = target.size();
-        target.resize(start + 2 * piece);
-        StoreHex(data + at, piece, target.data() + start);
-    }
+    std::size_t const start = target.size();
+    ResizeAndOverwrite(target, start + 2 * std::size_t{ size },
+                       [=](wchar_t* units, std::size_t)
+                       { return static_cast<std::size_t>(StoreHex(data, size, units + start) - units); });
 }
 
 std::wstring const& WStringHelper::Empty()
