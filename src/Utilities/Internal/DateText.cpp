@@ -44,7 +44,7 @@ constexpr FieldRange c_days{ 1, 31 };
 constexpr FieldRange c_hours{ 0, 23 };
 constexpr FieldRange c_sixtieths{ 0, 59 };
 
-/// Reads field by field and stops at the first fault.
+/// Stops at the first fault.
 class Reader
 {
 public:
