@@ -48,14 +48,15 @@ bool CommaSeparatedValueReader::MoveNext()
     std::size_t const begin = m_cursor.position;
     std::size_t const stop = GetStop(m_cursor);
     std::size_t const size = stop - begin;
-    // Whole blocks: there is room for them, and the last one may take some units more where there are some.
-    std::size_t const room = (size + c_unitsInBlock - 1) / c_unitsInBlock * c_unitsInBlock;
+    std::size_t const room = std::max(size, c_unitsInBlock); // a short value takes what follows along
     if (m_text[stop] != m_separator || m_text.size() - begin < room || m_currentValue.capacity() < room)
         return MoveOn();
-    auto const write = [size, from = m_text.data() + begin](wchar_t* units, std::size_t) noexcept
+    auto const write = [size, room, from = m_text.data() + begin](wchar_t* units, std::size_t) noexcept
     {
-        for (std::size_t at = 0; at < size; at += c_unitsInBlock)
+        std::size_t const last = room - c_unitsInBlock; // may begin in the block before
+        for (std::size_t at = 0; at < last; at += c_unitsInBlock)
             Platform::CopyUnits(from + at, units + at);
+        Platform::CopyUnits(from + last, units + last);
         return size;
     };
     ResizeAndOverwrite(m_currentValue, room, write);
@@ -73,9 +74,7 @@ VEK_NOINLINE bool CommaSeparatedValueReader::MoveOn()
         ReadEscapedValue(m_text, m_separator, m_cursor, m_currentValue);
         return true;
     }
-    m_currentValue.assign(m_text, m_cursor.position);
-    m_cursor.position = m_text.size();
-    return !m_currentValue.empty();
+    return !ReadRest().empty();
 }
 
 std::wstring const& CommaSeparatedValueReader::GetCurrentValue() const noexcept

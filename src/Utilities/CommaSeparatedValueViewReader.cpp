@@ -43,9 +43,7 @@ VEK_NOINLINE bool CommaSeparatedValueViewReader::MoveOn()
         ReadEscapedValue(m_text, m_separator, m_cursor, m_unescaped);
         return true;
     }
-    m_part = m_text.substr(m_cursor.position);
-    m_cursor.position = m_text.size();
-    return !m_part.empty();
+    return !ReadRest().empty();
 }
 
 std::wstring_view CommaSeparatedValueViewReader::GetCurrentValue() const noexcept
