@@ -22,8 +22,7 @@ VersionedFunctionCollectionBase<F>::~VersionedFunctionCollectionBase() = default
 template <class F>
 void VersionedFunctionCollectionBase<F>::SetFunction(unsigned int version, F function)
 {
-    Internal::SharedObject<F> stored(std::move(function));
-    m_functions.Set(version, stored);
+    m_functions.Set(version, std::move(function), nullptr);
 }
 
 template <class F>

@@ -32,8 +32,6 @@ protected:
     Internal::SharedObject<F> FindFunction(unsigned int version) const { return m_functions.Find(version); }
 
 private:
-    friend class XMLStreamer;
-
     Internal::VersionedFunctions<F> m_functions;
 };
 

@@ -9,6 +9,11 @@ XMLContentElement::XMLContentElement(StreamerError&, std::string const& name) : 
 {
 }
 
+XMLContentElement::XMLContentElement(std::string const& name, Internal::BlockPool* pool, XMLStructureElement* root)
+    : XMLElement(name, pool, root)
+{
+}
+
 XMLContentElement::XMLContentElement(XMLContentElement const& other) = default;
 XMLContentElement& XMLContentElement::operator=(XMLContentElement const& other) = default;
 XMLContentElement::~XMLContentElement() = default;
@@ -20,7 +25,7 @@ XMLElement::Type XMLContentElement::GetElementType() const
 
 void XMLContentElement::SetOnDo(unsigned int version, ContentHandler handler)
 {
-    m_onDo.SetFunction(version, std::move(handler));
+    m_onDo.Set(version, std::move(handler), m_pool);
 }
 
 } // namespace Vek::Framework::IXMLStreamer::Native

@@ -29,7 +29,11 @@ private:
     friend class XMLStreamer;
     friend class XMLStructureElement;
 
-    VersionedFunctionCollection<ContentHandler> m_onDo;
+    friend class Internal::BlockPool;
+
+    VEK_LOCAL XMLContentElement(std::string const& name, Internal::BlockPool* pool, XMLStructureElement* root);
+
+    Internal::VersionedFunctions<ContentHandler> m_onDo;
 };
 
 } // namespace Vek::Framework::IXMLStreamer::Native

@@ -5,18 +5,14 @@
 namespace Vek::Framework::IXMLStreamer::Native
 {
 
-namespace
+XMLElement::XMLElement(std::string const& name) : XMLElement(name, nullptr, nullptr)
 {
-
-template <class T>
-Internal::SharedObject<T> Copy(Internal::SharedObject<T> const& object)
-{
-    return object ? Internal::SharedObject<T>(T(*object)) : object;
 }
 
-} // namespace
-
-XMLElement::XMLElement(std::string const& name) : m_name(name)
+XMLElement::XMLElement(std::string const& name, Internal::BlockPool* pool, XMLStructureElement* root)
+    : m_name(name),
+      m_pool(pool),
+      m_root(root)
 {
 }
 
@@ -28,6 +24,15 @@ XMLElement::XMLElement(XMLElement const& other)
 }
 
 XMLElement::~XMLElement() = default;
+
+// Of an element in a pool, which its kind says nothing of, the memory ends with the pool.
+void XMLElement::End::operator()(XMLElement* element) const noexcept
+{
+    if (element->m_pool == nullptr)
+        delete element;
+    else
+        element->~XMLElement();
+}
 
 XMLElement& XMLElement::operator=(XMLElement const& other)
 {
@@ -44,13 +49,23 @@ std::string const& XMLElement::GetElementName() const noexcept
 void XMLElement::RegisterAttribute(unsigned int version, std::string const& name, AttributeHandler handler)
 {
     if (!m_attributes)
-        m_attributes = Internal::SharedObject<Attributes>(Attributes());
-    m_attributes->FindOrAdd(name).SetFunction(version, std::move(handler));
+        m_attributes = Internal::SharedObject<Attributes>::Make(m_pool, m_pool);
+    m_attributes->FindOrAdd(name).Set(version, std::move(handler), m_pool);
 }
 
 void XMLElement::RegisterUnspecifiedAttributes(unsigned int version, AttributeHandler handler)
 {
-    m_unspecifiedAttributes.SetFunction(version, std::move(handler));
+    m_unspecifiedAttributes.Set(version, std::move(handler), m_pool);
+}
+
+// On the heap: what assignments make again and again must not fill a pool.
+Internal::SharedObject<XMLElement::Attributes> XMLElement::Copy(Internal::SharedObject<Attributes> const& attributes)
+{
+    if (!attributes)
+        return {};
+    auto copy = Internal::SharedObject<Attributes>::Make(nullptr, nullptr);
+    copy->AddAll(*attributes);
+    return copy;
 }
 
 XMLElement::Attributes::Entry const* XMLElement::FindAttribute(std::string_view name) const

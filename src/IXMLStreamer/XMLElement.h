@@ -1,14 +1,15 @@
 #pragma once
 
+#include <IXMLStreamer/Internal/BlockPool.h>
 #include <IXMLStreamer/Internal/NameTable.h>
 #include <IXMLStreamer/Internal/SharedObject.h>
+#include <IXMLStreamer/Internal/VersionedFunctions.h>
 #include <IXMLStreamer/VersionedFunctionCollection.h>
 #include <VekApi.h>
 
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace Vek::Framework::IXMLStreamer::Native
 {
@@ -51,17 +52,29 @@ private:
     friend class XMLStreamer;
     friend class XMLStructureElement;
 
-    using AttributeHandlers = VersionedFunctionCollection<AttributeHandler>;
-    using Elements = std::vector<std::unique_ptr<XMLElement>>;
+    friend class XMLContentElement;
+    friend class Internal::BlockPool;
 
-    using Attributes = Internal::NameTable<AttributeHandlers>;
+    using AttributeHandlers = Internal::VersionedFunctions<AttributeHandler>;
+    using Attributes = Internal::NameTable<AttributeHandlers, std::string>;
 
-    Attributes::Entry const* FindAttribute(std::string_view name) const;
+    struct VEK_LOCAL End
+    {
+        void operator()(XMLElement* element) const noexcept;
+    };
+
+    /// Made in `pool`, which lives as long as the root, unless that is null.
+    VEK_LOCAL XMLElement(std::string const& name, Internal::BlockPool* pool, XMLStructureElement* root);
+
+    static VEK_LOCAL Internal::SharedObject<Attributes> Copy(Internal::SharedObject<Attributes> const& attributes);
+    VEK_LOCAL Attributes::Entry const* FindAttribute(std::string_view name) const;
 
     std::string m_name;
+    Internal::BlockPool* m_pool = nullptr;
+    XMLStructureElement* m_root = nullptr;   // null for a copy
+    std::unique_ptr<XMLElement, End> m_next; // below the same root, so that the end of a deep one takes no stack
     Internal::SharedObject<Attributes> m_attributes; // none before the first; an assignment replaces them all
     AttributeHandlers m_unspecifiedAttributes;
-    Elements* m_home = nullptr; // the root's list of all elements, so that the end of a deep description takes no stack
 };
 
 } // namespace Vek::Framework::IXMLStreamer::Native

@@ -9,13 +9,24 @@ namespace Vek::Framework::IXMLStreamer::Native
 {
 
 XMLStructureElement::XMLStructureElement(StreamerError& error, std::string const& name)
-    : XMLElement(name),
-      m_error(error)
+    : XMLStructureElement(error, name, nullptr, nullptr)
 {
-    m_home = &m_elements;
 }
 
-XMLStructureElement::~XMLStructureElement() = default;
+// A root where `root` is null.
+XMLStructureElement::XMLStructureElement(StreamerError& error, std::string const& name, Internal::BlockPool* pool,
+                                         XMLStructureElement* root)
+    : XMLElement(name, pool, root != nullptr ? root : this),
+      m_error(error),
+      m_children(pool)
+{
+}
+
+XMLStructureElement::~XMLStructureElement()
+{
+    while (m_next != nullptr)
+        m_next = std::move(m_next->m_next);
+}
 
 XMLElement::Type XMLStructureElement::GetElementType() const
 {
@@ -24,35 +35,31 @@ XMLElement::Type XMLStructureElement::GetElementType() const
 
 XMLContentElement& XMLStructureElement::CreateContentElement(std::string const& name)
 {
-    std::unique_ptr<XMLContentElement> element(new XMLContentElement(m_error, name));
-    XMLContentElement& created = *element;
-    InsertElement(std::move(element));
+    XMLContentElement& created = *Internal::BlockPool::Make<XMLContentElement>(m_pool, name, m_pool, m_root);
+    Insert(created);
     return created;
 }
 
 XMLStructureElement& XMLStructureElement::CreateStructureElement(std::string const& name)
 {
-    std::unique_ptr<XMLStructureElement> element(new XMLStructureElement(m_error, name));
-    XMLStructureElement& created = *element;
-    InsertElement(std::move(element));
+    XMLStructureElement& created =
+        *Internal::BlockPool::Make<XMLStructureElement>(m_pool, m_error, name, m_pool, m_root);
+    Insert(created);
     return created;
 }
 
 void XMLStructureElement::UseElement(XMLElement& element)
 {
-    if (element.m_home != m_home)
+    if (element.m_root != m_root)
         throw ArgumentException();
     AddChild(element);
 }
 
-void XMLStructureElement::InsertElement(std::unique_ptr<XMLElement> element)
+void XMLStructureElement::Insert(XMLElement& element)
 {
-    constexpr std::size_t c_fewest = 16;
-    if (m_home->capacity() == 0)
-        m_home->reserve(c_fewest);
-    XMLElement& inserted = *m_home->emplace_back(std::move(element));
-    inserted.m_home = m_home;
-    AddChild(inserted);
+    element.m_next = std::move(m_root->m_next);
+    m_root->m_next.reset(&element);
+    AddChild(element);
 }
 
 void XMLStructureElement::AddChild(XMLElement& element)
@@ -70,12 +77,12 @@ XMLStructureElement::Children::Entry const* XMLStructureElement::FindChildElemen
 
 void XMLStructureElement::SetOnBegin(unsigned int version, StructureHandler handler)
 {
-    m_onBegin.SetFunction(version, std::move(handler));
+    m_onBegin.Set(version, std::move(handler), m_pool);
 }
 
 void XMLStructureElement::SetOnEnd(unsigned int version, StructureHandler handler)
 {
-    m_onEnd.SetFunction(version, std::move(handler));
+    m_onEnd.Set(version, std::move(handler), m_pool);
 }
 
 } // namespace Vek::Framework::IXMLStreamer::Native

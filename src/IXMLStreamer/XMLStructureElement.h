@@ -4,8 +4,8 @@
 #include <IXMLStreamer/XMLContentElement.h>
 #include <IXMLStreamer/XMLElement.h>
 
-#include <memory>
-#include <vector>
+#include <string>
+#include <string_view>
 
 namespace Vek::Framework::IXMLStreamer::Native
 {
@@ -46,17 +46,21 @@ protected:
 private:
     friend class XMLStreamer;
 
-    using Children = Internal::NameTable<Internal::ElementDescription>;
+    using Children = Internal::NameTable<Internal::ElementDescription, std::string_view>; // of the elements' names
 
-    void InsertElement(std::unique_ptr<XMLElement> element);
-    void AddChild(XMLElement& element);
-    Children::Entry const* FindChildElement(std::string_view name) const;
+    friend class Internal::BlockPool;
+
+    VEK_LOCAL XMLStructureElement(StreamerError& error, std::string const& name, Internal::BlockPool* pool,
+                                  XMLStructureElement* root);
+
+    VEK_LOCAL void Insert(XMLElement& element);
+    VEK_LOCAL void AddChild(XMLElement& element);
+    VEK_LOCAL Children::Entry const* FindChildElement(std::string_view name) const;
 
     StreamerError& m_error;
     Children m_children;
-    Elements m_elements; // of a root: all descriptions below it, refused ones included
-    VersionedFunctionCollection<StructureHandler> m_onBegin;
-    VersionedFunctionCollection<StructureHandler> m_onEnd;
+    Internal::VersionedFunctions<StructureHandler> m_onBegin;
+    Internal::VersionedFunctions<StructureHandler> m_onEnd;
 };
 
 } // namespace Vek::Framework::IXMLStreamer::Native

@@ -1,23 +1,31 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 #include <string_view>
 
 namespace Vek::Framework::IXMLStreamer::Native::Internal
 {
 
-/// The name of something described, with what is needed to find out at once whether it stands in a document; see
-/// NameMatch.h.
+/// The first bytes of a name, by which it is found out at once whether it stands in a document; see NameMatch.h.
+struct NameHead
+{
+    static constexpr std::size_t c_size = 16;
+
+    explicit NameHead(std::string_view name);
+
+    char bytes[c_size]{};
+    unsigned int bits;         // one for each of them
+    bool isWholeAndAllLetters; // of ASCII, so that every syntax takes the name as a whole
+};
+
+/// The name of something described: a string, or the view of one that lives as long.
+template <class Text>
 struct NameKey
 {
-    static constexpr std::size_t c_headSize = 16;
+    explicit NameKey(std::string_view name) : text(name), head(name) {}
 
-    explicit NameKey(std::string_view name) : text(name), headBits((1U << name.copy(head, c_headSize)) - 1) {}
-
-    std::string text;
-    char head[c_headSize]{}; // the first bytes of the name
-    unsigned int headBits;   // one for each of them
+    Text text;
+    NameHead head;
 };
 
 } // namespace Vek::Framework::IXMLStreamer::Native::Internal

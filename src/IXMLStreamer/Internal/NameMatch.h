@@ -18,20 +18,21 @@ inline char const* MatchText(std::string_view text, char const* at, char const* 
 }
 
 /// Where `name` ends if it stands at `at`, in front of at least one more byte before `end`; null otherwise.
-inline char const* MatchName(NameKey const& name, char const* at, char const* end)
+template <class Text>
+inline char const* MatchName(NameKey<Text> const& name, char const* at, char const* end)
 {
     std::size_t const size = name.text.size();
     std::size_t const left = static_cast<std::size_t>(end - at);
     if (left <= size)
         return nullptr;
-    if (left < NameKey::c_headSize)
+    if (left < NameHead::c_size)
         return MatchText(name.text, at, end);
     __m128i const block = _mm_loadu_si128(reinterpret_cast<__m128i const*>(at));
-    __m128i const head = _mm_loadu_si128(reinterpret_cast<__m128i const*>(name.head));
+    __m128i const head = _mm_loadu_si128(reinterpret_cast<__m128i const*>(name.head.bytes));
     unsigned int const equal = static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpeq_epi8(block, head)));
-    if ((name.headBits & ~equal) != 0)
+    if ((name.head.bits & ~equal) != 0)
         return nullptr;
-    if (size > NameKey::c_headSize && std::memcmp(at, name.text.data(), size) != 0)
+    if (size > NameHead::c_size && std::memcmp(at, name.text.data(), size) != 0)
         return nullptr;
     return at + size;
 }

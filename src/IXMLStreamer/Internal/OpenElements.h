@@ -11,7 +11,7 @@
 namespace Vek::Framework::IXMLStreamer::Native::Internal
 {
 
-using Children = NameTable<ElementDescription>;
+using Children = NameTable<ElementDescription, std::string_view>;
 
 /// The elements open while a document is read, outermost first. A name that is described is not copied, and all others
 /// lie in one string: a million nested elements cost no million allocations.
@@ -20,7 +20,7 @@ class OpenElements
 public:
     struct Element
     {
-        NameKey const* key; // of the description; null where the name is a copy
+        NameKey<std::string_view> const* key; // of the description; null where the name is a copy
         std::size_t nameStart;
         ElementDescription description;
         Children::Entry const** nextChild; // where the one that came here last time is remembered; null for nowhere

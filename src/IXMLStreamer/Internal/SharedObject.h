@@ -1,5 +1,7 @@
 #pragma once
 
+#include <IXMLStreamer/Internal/BlockPool.h>
+
 #include <cstddef>
 #include <utility>
 
@@ -14,7 +16,6 @@ class SharedObject
 {
 public:
     SharedObject() = default;
-    explicit SharedObject(T&& object) : m_block(new Block{ std::move(object), 1 }) {}
     SharedObject(SharedObject const& other) noexcept : m_block(other.m_block)
     {
         if (m_block != nullptr)
@@ -28,8 +29,17 @@ public:
     }
     ~SharedObject()
     {
-        if (m_block != nullptr && --m_block->useCount == 0)
-            delete m_block;
+        if (m_block != nullptr && --m_block->useCount == 0) [[unlikely]]
+            BlockPool::End(m_block->pool, m_block);
+    }
+
+    /// An object in `pool`, which then outlives all that hold it; or one of its own where that is null.
+    template <class... Arguments>
+    static SharedObject Make(BlockPool* pool, Arguments&&... arguments)
+    {
+        SharedObject made;
+        made.m_block = BlockPool::Make<Block>(pool, pool, std::forward<Arguments>(arguments)...);
+        return made;
     }
 
     void Swap(SharedObject& other) noexcept { std::swap(m_block, other.m_block); }
@@ -47,8 +57,16 @@ public:
 private:
     struct Block
     {
+        template <class... Arguments>
+        explicit Block(BlockPool* owner, Arguments&&... arguments)
+            : object(std::forward<Arguments>(arguments)...),
+              pool(owner)
+        {
+        }
+
         T object;
-        std::size_t useCount;
+        BlockPool* pool;
+        std::size_t useCount = 1;
     };
 
     Block* m_block = nullptr;

@@ -44,15 +44,17 @@ public:
         return next == m_older.begin() ? Function() : (next - 1)->function;
     }
 
-    /// Leaves what was stored for the version in `function`: it is to end last, whatever its end brings about.
-    void Set(unsigned int version, Function& function)
+    /// Stores `function` for `version`, in `pool` unless that is null.
+    void Set(unsigned int version, F&& function, BlockPool* pool)
     {
+        Function stored = Function::Make(pool, std::move(function));
         if (!m_latest.function || m_latest.version < version)
-            SetLatest(version, function);
+            SetLatest(version, stored);
         else if (m_latest.version == version)
-            m_latest.function.Swap(function);
+            m_latest.function.Swap(stored);
         else
-            SetOlder(version, function);
+            SetOlder(version, stored);
+        // What was stored for the version before ends last, whatever its end brings about.
     }
 
 private:
@@ -62,7 +64,7 @@ private:
         Function function;
     };
 
-    static Entry Copy(Entry const& entry) { return { entry.version, Function(F(*entry.function)) }; }
+    static Entry Copy(Entry const& entry) { return { entry.version, Function::Make(nullptr, *entry.function) }; }
 
     template <class Iterator>
     static Iterator FindNext(Iterator begin, Iterator end, unsigned int version)
@@ -75,7 +77,8 @@ private:
     {
         if (m_latest.function)
             m_older.push_back(m_latest);
-        m_latest = { version, std::move(function) };
+        m_latest.version = version;
+        m_latest.function.Swap(function);
     }
 
     void SetOlder(unsigned int version, Function& function)

@@ -66,7 +66,7 @@ void XMLStreamer::Reader::BeginElement(std::string_view name, Params& params)
 void XMLStreamer::Reader::BeginRoot(std::string_view name, Params& params)
 {
     if (name == m_root->GetElementName())
-        m_openElements.Push(name, { m_root.get(), true }, m_root->m_children.GetFirstPlace());
+        m_openElements.Push(name, { m_root, true }, m_root->m_children.GetFirstPlace());
     else
         RaiseError(StreamerError::InvalidRootElement, m_root->GetElementName(), params);
 }

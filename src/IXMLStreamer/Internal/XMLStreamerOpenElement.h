@@ -66,9 +66,9 @@ inline void XMLStreamer::Reader::NoteAttribute(Attribute const* attribute, std::
 // Handlers; true where there is none to ask.
 
 template <class F, class... Arguments>
-bool XMLStreamer::Reader::Call(VersionedFunctionCollection<F> const& handlers, Arguments const&... arguments) const
+bool XMLStreamer::Reader::Call(Internal::VersionedFunctions<F> const& handlers, Arguments const&... arguments) const
 {
-    auto const handler = handlers.m_functions.Find(m_version);
+    auto const handler = handlers.Find(m_version);
     return !handler || (*handler)(arguments...);
 }
 
@@ -77,7 +77,7 @@ inline bool XMLStreamer::Reader::CallAttributeHandler(Attribute const* attribute
     if (XMLElement const* const element = GetOpenElement(); element != nullptr)
     {
         auto const& handlers = attribute != nullptr ? attribute->value : element->m_unspecifiedAttributes;
-        if (auto const handler = handlers.m_functions.Find(m_version); handler)
+        if (auto const handler = handlers.Find(m_version); handler)
             return (*handler)(name, m_value);
     }
     return Call(m_onUnknownAttribute, name, m_value);

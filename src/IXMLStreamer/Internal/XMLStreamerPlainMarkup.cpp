@@ -254,7 +254,7 @@ inline char const* XMLStreamer::Reader::FindEndTagEnd(char const* at, char const
 {
     if (end - at < 3 || at[1] != '/' || m_openElements.IsEmpty())
         return nullptr;
-    NameKey const* const key = m_openElements.GetInnermost().key;
+    NameKey<std::string_view> const* const key = m_openElements.GetInnermost().key;
     char const* const tagEnd =
         key != nullptr ? MatchName(*key, at + 2, end) : MatchText(m_openElements.GetName(), at + 2, end);
     return tagEnd != nullptr && *tagEnd == '>' ? tagEnd : nullptr;

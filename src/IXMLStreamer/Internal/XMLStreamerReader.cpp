@@ -23,6 +23,15 @@ constexpr Internal::NameBytes c_bytesOfAnyEncoding(Internal::NameBytes::HighByte
 
 } // namespace
 
+/// A root with all that is described below it, and the memory of that.
+struct XMLStreamer::Reader::Description
+{
+    Description(StreamerError& error, std::string const& name) : root(error, name, &pool, nullptr) {}
+
+    Internal::BlockPool pool;
+    XMLStructureElement root;
+};
+
 /// Marks the reader as running; what only the run needed goes with it.
 class XMLStreamer::Reader::Running
 {
@@ -33,7 +42,7 @@ public:
     ~Running()
     {
         m_reader.m_isRunning = false;
-        m_reader.m_replacedRoots.clear();
+        m_reader.m_replacedDescriptions.clear();
         m_reader.ReleaseMemory();
     }
 
@@ -51,23 +60,24 @@ XMLStreamer::Reader& XMLStreamer::Reader::GetReader(Params& params)
 
 XMLStructureElement& XMLStreamer::Reader::CreateRoot(std::string const& name)
 {
-    std::unique_ptr<XMLStructureElement> root(new XMLStructureElement(m_error, name));
+    auto description = std::make_unique<Description>(m_error, name);
     if (!m_openElements.IsEmpty())
         m_openElements.KeepNames(); // of a run that goes on or has failed; the path outlives the descriptions
-    if (m_isRunning && m_root != nullptr)
-        m_replacedRoots.push_back(std::move(m_root));
-    m_root = std::move(root);
+    if (m_isRunning && m_description != nullptr)
+        m_replacedDescriptions.push_back(std::move(m_description));
+    m_description = std::move(description);
+    m_root = &m_description->root;
     return *m_root;
 }
 
 void XMLStreamer::Reader::SetOnUnknownElement(unsigned int version, UnknownElementHandler handler)
 {
-    m_onUnknownElement.SetFunction(version, std::move(handler));
+    m_onUnknownElement.Set(version, std::move(handler), nullptr);
 }
 
 void XMLStreamer::Reader::SetOnUnknownAttribute(unsigned int version, AttributeHandler handler)
 {
-    m_onUnknownAttribute.SetFunction(version, std::move(handler));
+    m_onUnknownAttribute.Set(version, std::move(handler), nullptr);
 }
 
 template <class... Source>
@@ -129,8 +139,7 @@ void XMLStreamer::Reader::ForgetWhatCameLast() const
         if (element.GetElementType() == XMLElement::Structure)
             static_cast<XMLStructureElement const&>(element).m_children.ForgetSuccessors();
     };
-    forget(*m_root);
-    for (auto const& element : m_root->m_elements)
+    for (XMLElement const* element = m_root; element != nullptr; element = element->m_next.get())
         forget(*element);
 }
 

@@ -45,6 +45,7 @@ private:
     using State = IParser::Native::State;
     using StateTable = IParser::Native::Internal::StateTable;
     using Params = State::ResultParams;
+    struct Description;
     class Running;
     class TableMaker;
     class LenientTable;
@@ -137,7 +138,7 @@ private:
     void NoteAttribute(Attribute const* attribute, std::string_view name);
 
     template <class F, class... Arguments>
-    bool Call(VersionedFunctionCollection<F> const& handlers, Arguments const&... arguments) const;
+    bool Call(Internal::VersionedFunctions<F> const& handlers, Arguments const&... arguments) const;
     bool CallAttributeHandler(Attribute const* attribute, std::string const& name) const;
     bool CallBeginHandler() const;
     bool CallContentHandler(std::string const& content) const;
@@ -155,13 +156,14 @@ private:
 
     IParser::Native::ParserResult m_result;
     StreamerError m_error;
-    std::unique_ptr<XMLStructureElement> m_root;
-    std::vector<std::unique_ptr<XMLStructureElement>> m_replacedRoots; // during a run, which may be inside them
+    std::unique_ptr<Description> m_description;
+    XMLStructureElement* m_root = nullptr;                            // of the description
+    std::vector<std::unique_ptr<Description>> m_replacedDescriptions; // during a run, which may be inside them
     unsigned int m_version = 0;
     Syntax m_syntax = Lenient;
     Syntax m_lastSyntax = Lenient; // of the last run, which the descriptions remember
-    VersionedFunctionCollection<UnknownElementHandler> m_onUnknownElement;
-    VersionedFunctionCollection<AttributeHandler> m_onUnknownAttribute;
+    Internal::VersionedFunctions<UnknownElementHandler> m_onUnknownElement;
+    Internal::VersionedFunctions<AttributeHandler> m_onUnknownAttribute;
     bool m_isRunning = false;
 
     Internal::OpenElements m_openElements;

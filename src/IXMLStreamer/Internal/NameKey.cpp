@@ -1,0 +1,34 @@
+#include <IXMLStreamer/Internal/NameKey.h>
+
+#include <IXMLStreamer/Internal/TextBuffer.h>
+
+#include <emmintrin.h>
+
+namespace Vek::Framework::IXMLStreamer::Native::Internal
+{
+
+namespace
+{
+
+// One bit for each letter of ASCII.
+unsigned int FindLetters(char const* bytes)
+{
+    constexpr char c_caseBit = 0x20;
+    __m128i const block = _mm_loadu_si128(reinterpret_cast<__m128i const*>(bytes));
+    __m128i const lower = _mm_or_si128(block, _mm_set1_epi8(c_caseBit));
+    __m128i const isAbove = _mm_cmpgt_epi8(lower, _mm_set1_epi8('a' - 1));
+    __m128i const isBelow = _mm_cmplt_epi8(lower, _mm_set1_epi8('z' + 1));
+    return static_cast<unsigned int>(_mm_movemask_epi8(_mm_and_si128(isAbove, isBelow)));
+}
+
+} // namespace
+
+NameHead::NameHead(std::string_view name)
+{
+    std::string_view const head = name.substr(0, c_size);
+    TextBuffer::Copy(bytes, head);
+    bits = (1U << head.size()) - 1;
+    isWholeAndAllLetters = !name.empty() && name.size() <= c_size && (bits & ~FindLetters(bytes)) == 0;
+}
+
+} // namespace Vek::Framework::IXMLStreamer::Native::Internal
