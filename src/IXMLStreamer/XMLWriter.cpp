@@ -2,8 +2,10 @@
 
 #include <IXMLStreamer/Internal/Escaping.h>
 #include <IXMLStreamer/Internal/NumberText.h>
+#include <IXMLStreamer/Internal/UnformattedWrite.h>
 
 #include <algorithm>
+#include <cstring>
 
 namespace Vek::Framework::IXMLStreamer::Native
 {
@@ -24,15 +26,31 @@ constexpr WriterError::ResultCode c_refusals[][5] = {
 
 using Internal::TextBuffer;
 
-void AppendLineStart(TextBuffer& text, std::size_t tabs, std::string_view mark, std::string_view name)
+constexpr std::string_view c_commentEnd = "-->\n";
+
+inline void AppendLineStart(TextBuffer& text, std::size_t tabs, std::string_view mark, std::string_view name)
 {
-    char* const start = text.Reserve(tabs + mark.size() + name.size());
-    char* const end = std::fill_n(start, tabs, '\t');
-    text.SetEnd(TextBuffer::Copy(TextBuffer::Copy(end, mark), name));
+    constexpr std::string_view c_block = "\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t"; // written whole, since few lines need more
+    char* const start = text.Reserve(tabs + c_block.size() + mark.size() + name.size());
+    std::memcpy(start, c_block.data(), c_block.size());
+    if (tabs > c_block.size())
+        std::fill_n(start, tabs, '\t');
+    text.SetEnd(TextBuffer::Copy(TextBuffer::Copy(start + tabs, mark), name));
+}
+
+// `value` escaped, and `after`. `at` is in the room asked for last, which holds both if nothing is escaped.
+inline void AppendEscaped(TextBuffer& text, char* at, std::string_view value, std::string_view after)
+{
+    std::size_t const plain = Internal::CopyPlain(at, value);
+    if (plain == value.size())
+        return text.SetEnd(TextBuffer::Copy(at + plain, after));
+    text.SetEnd(at + plain);
+    Internal::AppendFromEscaped(text, value.substr(plain));
+    text.Append(after);
 }
 
 // With the name from the start tag, since the attribute writer may have changed what that was taken from.
-void AppendEndTag(TextBuffer& text, std::size_t nameStart, std::size_t nameSize)
+inline void AppendEndTag(TextBuffer& text, std::size_t nameStart, std::size_t nameSize)
 {
     char* const start = text.Reserve(nameSize + 4);
     std::string_view const name(text.GetData() + nameStart, nameSize);
@@ -55,7 +73,8 @@ public:
     ~RunningOperation()
     {
         m_draft.text.Clear();
-        m_draft.lostAttribute = nullptr;
+        if (m_draft.lostAttribute != nullptr)
+            m_draft.lostAttribute = nullptr;
         m_draft.phase = Phase::Idle;
     }
 
@@ -187,8 +206,7 @@ bool XMLWriter::WriteComment(std::string const& text)
         return true;
     RunningOperation const running(m_draft);
     AppendLineStart(m_draft.text, GetDepth(), "<!--", {});
-    Internal::AppendEscaped(m_draft.text, text);
-    m_draft.text.Append("-->\n");
+    AppendEscaped(m_draft.text, m_draft.text.Reserve(text.size() + c_commentEnd.size()), text, c_commentEnd);
     SendDraft();
     return true;
 }
@@ -228,8 +246,8 @@ bool XMLWriter::RaiseError(WriterError::ResultCode code)
     return false;
 }
 
-// `appendValue` answers false for an empty value. It is called when the attributes are through, since their writer may
-// change what the value is taken from.
+// `appendValue` appends ">" and the value, or answers false for an empty one. It is called when the attributes are
+// through, since their writer may change what the value is taken from.
 template <class AppendValue>
 bool XMLWriter::WriteInternalContentValue(std::string const& name, AppendValue const& appendValue,
                                           AttributeWriter const& attributes)
@@ -242,15 +260,10 @@ bool XMLWriter::WriteInternalContentValue(std::string const& name, AppendValue c
     AppendStartTag(name);
     if (!AppendAttributes(attributes))
         return false;
-    std::size_t const tagEnd = m_draft.text.GetSize();
-    m_draft.text.Append('>');
     if (appendValue())
         AppendEndTag(m_draft.text, nameStart, nameSize);
     else
-    {
-        m_draft.text.Truncate(tagEnd);
         m_draft.text.Append("/>\n");
-    }
     SendDraft();
     return true;
 }
@@ -261,8 +274,12 @@ bool XMLWriter::WriteText(std::string const& name, GetText const& getText, Attri
     auto const append = [&]
     {
         std::string_view const value = getText();
-        Internal::AppendEscaped(m_draft.text, value);
-        return !value.empty();
+        if (value.empty())
+            return false;
+        char* const start = m_draft.text.Reserve(value.size() + 1);
+        *start = '>';
+        AppendEscaped(m_draft.text, start + 1, value, {});
+        return true;
     };
     return WriteInternalContentValue(name, append, attributes);
 }
@@ -272,19 +289,20 @@ bool XMLWriter::WriteNumber(std::string const& name, Number value, AttributeWrit
 {
     auto const append = [&]
     {
+        m_draft.text.Append('>');
         Internal::AppendNumber(m_draft.text, *m_stream, value);
         return true;
     };
     return WriteInternalContentValue(name, append, attributes);
 }
 
-void XMLWriter::AppendStartTag(std::string const& name)
+inline void XMLWriter::AppendStartTag(std::string const& name)
 {
     AppendLineStart(m_draft.text, GetDepth(), "<", name);
 }
 
 // False when an attribute was refused; what stands before it goes out then, as far as the tag came.
-bool XMLWriter::AppendAttributes(AttributeWriter const& attributes)
+inline bool XMLWriter::AppendAttributes(AttributeWriter const& attributes)
 {
     m_draft.phase = Phase::Attributes;
     attributes([this, number = m_draft.number](std::string const& name, std::string const& value)
@@ -317,9 +335,7 @@ void XMLWriter::AppendAttribute(std::string const& name, std::string const& valu
     {
         char* const start = m_draft.text.Reserve(name.size() + value.size() + 4);
         *start = ' ';
-        m_draft.text.SetEnd(TextBuffer::Copy(TextBuffer::Copy(start + 1, name), "=\""));
-        Internal::AppendEscaped(m_draft.text, value);
-        m_draft.text.Append('"');
+        AppendEscaped(m_draft.text, TextBuffer::Copy(TextBuffer::Copy(start + 1, name), "=\""), value, "\"");
     }
     catch (...)
     {
@@ -332,7 +348,7 @@ void XMLWriter::AppendAttribute(std::string const& name, std::string const& valu
 void XMLWriter::SendDraft()
 {
     if (!m_draft.text.IsEmpty())
-        m_stream->write(m_draft.text.GetData(), static_cast<std::streamsize>(m_draft.text.GetSize()));
+        Internal::WriteUnformatted(*m_stream, { m_draft.text.GetData(), m_draft.text.GetSize() });
 }
 
 } // namespace Vek::Framework::IXMLStreamer::Native

@@ -163,11 +163,11 @@ private:
     VEK_LOCAL bool WriteText(std::string const& name, GetText const& getText, AttributeWriter const& attributes);
     template <class Number>
     VEK_LOCAL bool WriteNumber(std::string const& name, Number value, AttributeWriter const& attributes);
-    void AppendStartTag(std::string const& name);
-    bool AppendAttributes(AttributeWriter const& attributes);
+    VEK_LOCAL void AppendStartTag(std::string const& name);
+    VEK_LOCAL bool AppendAttributes(AttributeWriter const& attributes);
     VEK_LOCAL void EmitAttribute(unsigned long long operation, std::string const& name, std::string const& value);
     VEK_LOCAL void AppendAttribute(std::string const& name, std::string const& value);
-    void SendDraft();
+    VEK_LOCAL void SendDraft();
 
     std::size_t GetDepth() const { return m_nameStarts.size(); }
 

@@ -46,17 +46,17 @@ bool IsEscaped(char c)
     return c_escapedBytes[static_cast<unsigned char>(c)].size != 1;
 }
 
-// One bit for each byte that may be escaped: all above 127, and seven of ASCII, two pairs of which differ in one bit.
+// One bit for each byte that may be escaped: all above 127, control characters but the tab, which is often met, and
+// five signs, two pairs of which differ in one bit.
 unsigned int FindCandidates(__m128i bytes)
 {
     auto const equals = [](__m128i block, char c) { return _mm_cmpeq_epi8(block, _mm_set1_epi8(c)); };
     auto const with = [bytes](char bits) { return _mm_or_si128(bytes, _mm_set1_epi8(bits)); };
-    __m128i const lineEnds = _mm_or_si128(equals(bytes, '\n'), equals(bytes, '\r'));
     __m128i const quotes = _mm_or_si128(equals(bytes, '"'), equals(with('&' ^ '\''), '\''));
-    __m128i const brackets = equals(with('<' ^ '>'), '>');
-    __m128i const high = bytes; // for its sign bits
-    return static_cast<unsigned int>(
-        _mm_movemask_epi8(_mm_or_si128(_mm_or_si128(lineEnds, quotes), _mm_or_si128(brackets, high))));
+    __m128i const signs = _mm_or_si128(quotes, equals(with('<' ^ '>'), '>'));
+    __m128i const usual = _mm_or_si128(_mm_cmpgt_epi8(bytes, _mm_set1_epi8(' ' - 1)), equals(bytes, '\t'));
+    constexpr unsigned int c_all = 0xFFFF;
+    return static_cast<unsigned int>(_mm_movemask_epi8(_mm_andnot_si128(signs, usual))) ^ c_all;
 }
 
 unsigned int CopyBlock(char* target, char const* text)
@@ -81,16 +81,22 @@ std::size_t CopyLong(char* target, char const* text, std::size_t size)
     return candidates == 0 ? size : at + static_cast<std::size_t>(std::countr_zero(candidates));
 }
 
-// A word in the low bytes, zeros above.
-
-__m128i Load(std::uint64_t const* word)
+unsigned int FindCandidates(__m128i first, __m128i last)
 {
-    return _mm_loadl_epi64(reinterpret_cast<__m128i const*>(word));
+    return FindCandidates(first) | FindCandidates(last);
 }
 
-__m128i Load(std::uint32_t const* word)
+unsigned int FindCandidates(std::uint64_t first, std::uint64_t last)
 {
-    return _mm_cvtsi32_si128(static_cast<int>(*word));
+    return FindCandidates(_mm_unpacklo_epi64(_mm_cvtsi64_si128(static_cast<long long>(first)),
+                                             _mm_cvtsi64_si128(static_cast<long long>(last))));
+}
+
+unsigned int FindCandidates(std::uint32_t first, std::uint32_t last)
+{
+    __m128i const words =
+        _mm_unpacklo_epi32(_mm_cvtsi32_si128(static_cast<int>(first)), _mm_cvtsi32_si128(static_cast<int>(last)));
+    return FindCandidates(_mm_unpacklo_epi64(words, words)); // twice, to fill the block
 }
 
 // Copies a text that is at least one and at most two words long, if there is no candidate in it. Its two ends meet or
@@ -102,41 +108,56 @@ bool CopyEnds(char* target, char const* text, std::size_t size)
     Word last;
     std::memcpy(&first, text, sizeof(Word));
     std::memcpy(&last, text + size - sizeof(Word), sizeof(Word));
-    if (FindCandidates(_mm_unpacklo_epi64(Load(&first), Load(&last))) != 0) // zeros beside them are no candidates
+    if (FindCandidates(first, last) != 0)
         return false;
     std::memcpy(target, &first, sizeof(Word));
     std::memcpy(target + size - sizeof(Word), &last, sizeof(Word));
     return true;
 }
 
-// The same as CopyLong for a shorter text.
-std::size_t CopyShort(char* target, char const* text, std::size_t size)
+// The same for one, two or three bytes. Single bytes are by far the most: no loop whose end would have to be guessed.
+bool CopyFew(char* target, char const* text, std::size_t size)
 {
-    if (size >= sizeof(std::uint64_t) ? CopyEnds<std::uint64_t>(target, text, size)
-                                      : size >= sizeof(std::uint32_t) && CopyEnds<std::uint32_t>(target, text, size))
-        return size;
+    std::size_t const middle = size / 2;
+    std::size_t const last = size - 1;
+    if (IsEscaped(text[0]) || IsEscaped(text[middle]) || IsEscaped(text[last]))
+        return false;
+    target[0] = text[0];
+    target[middle] = text[middle];
+    target[last] = text[last];
+    return true;
+}
+
+// Most texts are short and stand as they are.
+bool CopyWhole(char* target, char const* text, std::size_t size)
+{
+    if (size >= sizeof(__m128i))
+        return CopyEnds<__m128i>(target, text, size);
+    if (size >= sizeof(std::uint64_t))
+        return CopyEnds<std::uint64_t>(target, text, size);
+    if (size >= sizeof(std::uint32_t))
+        return CopyEnds<std::uint32_t>(target, text, size);
+    return size == 0 || CopyFew(target, text, size);
+}
+
+std::size_t CopyByByte(char* target, char const* text, std::size_t size)
+{
     std::size_t at = 0;
     for (; at < size && !IsEscaped(text[at]); ++at)
         target[at] = text[at];
     return at;
 }
 
-// Copies the bytes that stand as they are, up to the first that may not.
-std::size_t CopyPlain(char* target, std::string_view text)
-{
-    return text.size() < c_blockSize ? CopyShort(target, text.data(), text.size())
-                                     : CopyLong(target, text.data(), text.size());
-}
-
 } // namespace
 
-void AppendEscaped(TextBuffer& target, std::string_view text)
+std::size_t CopyPlain(char* target, std::string_view text)
 {
-    char* const end = target.Reserve(text.size());
-    std::size_t const plain = CopyPlain(end, text);
-    target.SetEnd(end + plain);
-    if (plain != text.size())
-        AppendFromEscaped(target, text.substr(plain));
+    std::size_t const size = text.size();
+    if (size > 2 * c_blockSize)
+        return CopyLong(target, text.data(), size);
+    if (CopyWhole(target, text.data(), size))
+        return size;
+    return size < c_blockSize ? CopyByByte(target, text.data(), size) : CopyLong(target, text.data(), size);
 }
 
 void AppendFromEscaped(TextBuffer& target, std::string_view text)
