@@ -41,6 +41,7 @@ constexpr Gathering c_gathering = []
     return gathering;
 }();
 
+/// A bit for each byte that is not ASCII.
 unsigned GetOthers(unsigned char const* block) noexcept
 {
     return GetSignBits(LoadBytes(block));
@@ -73,8 +74,7 @@ struct Avx2Stores
     }
 };
 
-/// Decodes from one place to another. A sequence of two gives its unit with its second byte: a block may end within
-/// one.
+/// Decodes from one place to another. A sequence gives its unit with its last byte: a block may end within one.
 template <typename Stores>
 class BlockDecoder
 {
@@ -136,6 +136,7 @@ private:
     std::size_t GetRoom() const noexcept { return static_cast<std::size_t>(m_end - m_at); }
     bool HasRoom(std::size_t size) const noexcept { return GetRoom() >= size; }
 
+    /// From here on, ASCII is stored at aligned addresses.
     VEK_INLINE void GoToBoundary() noexcept
     {
         if (!HasRoom(c_blockSize) || GetOthers(m_at) != 0)
@@ -181,8 +182,7 @@ private:
             m_at -= m_at[-1] >= 0xC0 ? 1 : 2;
     }
 
-    /// A block of ASCII and well-formed sequences of two or three. False, and nothing taken, where anything else is in
-    /// it.
+    /// Takes a block of ASCII and well-formed sequences of two or three, or nothing where anything else is in it.
     VEK_INLINE bool TakeBlock() noexcept
     {
         __m128i const bytes = LoadBytes(m_at);
