@@ -38,7 +38,7 @@ public:
     std::wstring const& ReadRest();
 
 private:
-    bool MoveOn();
+    VEK_LOCAL bool MoveOn();
 
     std::wstring m_text;
     wchar_t m_separator;

@@ -51,7 +51,7 @@ public:
     std::wstring_view ReadRest() noexcept;
 
 private:
-    bool MoveOn();
+    VEK_LOCAL bool MoveOn();
 
     std::wstring_view m_text;
     wchar_t m_separator;
