@@ -90,16 +90,17 @@ private:
     static bool IsNumber(std::string_view text)
     {
         auto const isDigit = [](char c) { return c >= '0' && c <= '9'; };
+        if (!isDigit(text.front()))
+            return false;
         auto const point = std::find_if_not(text.begin(), text.end(), isDigit);
-        return point == text.end() ||
-               (point != text.begin() && *point == '.' && std::all_of(point + 1, text.end(), isDigit));
+        return point == text.end() || (*point == '.' && std::all_of(point + 1, text.end(), isDigit));
     }
 
     void Add(unsigned kind, std::string_view text)
     {
         m_symbol.kind = kind;
         m_symbol.text.assign(text);
-        m_totals.Add(m_symbol.kind, m_symbol.text);
+        m_totals.Add(kind, m_symbol.text);
     }
 
     StateParser m_parser;

@@ -120,6 +120,17 @@ bool SimpleParser::GetNextSymbol(Symbol& symbol)
     return GetOtherSymbol(symbol, at);
 }
 
+inline bool SimpleParser::GetToken(Symbol& symbol, char const* at)
+{
+    Internal::Token const* const token = m_tokens.FindToken(at, m_source.GetRemainingBytes());
+    if (token == nullptr || !token->IsScannable())
+        return GetAnySymbol(symbol);
+    std::size_t const size = token->GetText().size();
+    symbol.Begin(Symbol::Token, token->GetId(), m_source.GetLine(), m_source.GetColumn(at));
+    m_source.MoveTo(at + size);
+    return HandOut<Internal::ScannedText::c_padding>(symbol, at, size);
+}
+
 VEK_NOINLINE bool SimpleParser::GetOtherSymbol(Symbol& symbol, char const* at)
 {
     unsigned char const start = GetStart(*at);
@@ -130,17 +141,6 @@ VEK_NOINLINE bool SimpleParser::GetOtherSymbol(Symbol& symbol, char const* at)
     if ((start & CommentStart) != 0)
         return GetSymbolOrComment(symbol, at);
     return GetToken(symbol, at);
-}
-
-inline bool SimpleParser::GetToken(Symbol& symbol, char const* at)
-{
-    Internal::Token const* const token = m_tokens.FindToken(at, m_source.GetRemainingBytes());
-    if (token == nullptr || !token->IsScannable())
-        return GetAnySymbol(symbol);
-    std::size_t const size = token->GetText().size();
-    symbol.Begin(Symbol::Token, token->GetId(), m_source.GetLine(), m_source.GetColumn(at));
-    m_source.MoveTo(at + size);
-    return HandOut<Internal::ScannedText::c_padding>(symbol, at, size);
 }
 
 VEK_NOINLINE bool SimpleParser::GetSymbolOrComment(Symbol& symbol, char const* at)
@@ -166,6 +166,18 @@ VEK_NOINLINE bool SimpleParser::GetSymbolBehindComment(Symbol& symbol)
             m_source.MoveTo(SkipBlanks(m_source.GetPosition()));
     } while ((GetStart() & (Blank | Tab | TextStart | End)) == 0 && IsComment());
     return GetNextSymbol(symbol);
+}
+
+inline std::string_view SimpleParser::TakeText(Symbol& symbol)
+{
+    char const* const begin = m_source.GetPosition() + 1;
+    void const* const delimiter = std::memchr(begin, m_textToken, static_cast<std::size_t>(m_source.GetEnd() - begin));
+    char const* const end = delimiter == nullptr ? m_source.GetEnd() : static_cast<char const*>(delimiter);
+    symbol.Begin(Symbol::Text, m_source.GetLine(), m_source.GetColumn(end));
+    m_source.MoveTo(delimiter == nullptr ? end : end + 1);
+    if (delimiter == nullptr)
+        symbol.m_state = Symbol::Unterminated;
+    return { begin, static_cast<std::size_t>(end - begin) };
 }
 
 VEK_NOINLINE bool SimpleParser::GetText(Symbol& symbol)
@@ -267,18 +279,6 @@ bool SimpleParser::ScanText(Symbol& symbol)
 
     symbol.m_text.assign(TakeText(symbol));
     return true;
-}
-
-inline std::string_view SimpleParser::TakeText(Symbol& symbol)
-{
-    char const* const begin = m_source.GetPosition() + 1;
-    void const* const delimiter = std::memchr(begin, m_textToken, static_cast<std::size_t>(m_source.GetEnd() - begin));
-    char const* const end = delimiter == nullptr ? m_source.GetEnd() : static_cast<char const*>(delimiter);
-    symbol.Begin(Symbol::Text, m_source.GetLine(), m_source.GetColumn(end));
-    m_source.MoveTo(delimiter == nullptr ? end : end + 1);
-    if (delimiter == nullptr)
-        symbol.m_state = Symbol::Unterminated;
-    return { begin, static_cast<std::size_t>(end - begin) };
 }
 
 // The first blank was counted already.

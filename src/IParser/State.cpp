@@ -59,6 +59,8 @@ void State::Replace(std::shared_ptr<Consumer const>& slot, Consumer consumer)
         m_replacedConsumers.push_back(slot);
     slot = std::move(fresh);
     m_takesText = *m_textConsumer || *m_textViewConsumer || *m_numberConsumer;
+    m_takesViewsOnly = *m_textViewConsumer && !*m_numberConsumer;
+    m_hasBulkConsumer = static_cast<bool>(*m_bulkConsumer);
 }
 
 void State::RegisterTextConsumer(TextConsumer consumer)

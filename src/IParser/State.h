@@ -128,6 +128,8 @@ private:
     std::shared_ptr<EndOfSourceConsumer const> m_endOfSourceConsumer;
     std::vector<std::shared_ptr<void const>> m_replacedConsumers; // kept while one of them may be running
     bool m_takesText = false;                                     // in one of the three ways
+    bool m_takesViewsOnly = false;                                // in that one of the three ways
+    bool m_hasBulkConsumer = false;
     std::unique_ptr<Internal::TokenTree> m_tokens;
 };
 

@@ -39,12 +39,25 @@ public:
     /// The first member of the set in [at, end), or `end`.
     char const* Find(char const* at, char const* end) const
     {
-        if (m_count == 0)
-            return end;
         if (m_count <= c_lanes)
+        {
+            if (m_count == 0)
+                return end;
             for (; end - at >= c_blockSize; at += c_blockSize)
                 if (unsigned int const hits = m_count <= 4 ? MatchBlock<4>(at) : MatchBlock<8>(at); hits != 0)
                     return at + std::countr_zero(hits);
+        }
+        for (; end - at >= 4; at += 4) // most runs are short, and this spares three looks for the end
+        {
+            if (Contains(at[0]))
+                return at;
+            if (Contains(at[1]))
+                return at + 1;
+            if (Contains(at[2]))
+                return at + 2;
+            if (Contains(at[3]))
+                return at + 3;
+        }
         while (at != end && !Contains(*at))
             ++at;
         return at;

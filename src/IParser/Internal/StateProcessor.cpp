@@ -3,6 +3,7 @@
 #include <IParser/Internal/Ascii.h>
 #include <IParser/Internal/NumberText.h>
 #include <IParser/Internal/StateToken.h>
+#include <Platform/Attributes.h>
 
 #include <algorithm>
 #include <limits>
@@ -14,8 +15,9 @@ using Internal::StateToken;
 
 ParserResult StateProcessor::Process()
 {
-    while (ConsumeInBulk() && FindNextToken())
-        if (!ProcessToken())
+    FoundToken found{};
+    while (ConsumeInMemory(found) && FindToken(found))
+        if (!ProcessToken(found))
             return GetResult();
     if (m_isEnded)
         return GetResult();
@@ -30,47 +32,72 @@ ParserResult StateProcessor::Process()
     return GetResult();
 }
 
-// Recognition. The first place where a token matches wins, and there the longest token. It begins with no text set
-// aside: what was pending has been consumed.
-
-bool StateProcessor::FindNextToken()
+// The short way of texts and tokens that lie in memory. It begins with no text set aside and goes on while every token
+// is told by what is in memory. What has to be looked at otherwise lies behind m_textStart then, and no token begins
+// before found.start. False when a consumer ended the run.
+bool StateProcessor::ConsumeInMemory(FoundToken& found)
 {
-    PassTokensWithoutConsumer();
-
-    Internal::TokenTree const& tokens = *m_state->m_tokens;
-    char const* const end = m_source.GetEnd();
-    char const* const at = tokens.FindTokenStart(m_textStart, end);
-    m_token = at == end ? nullptr : tokens.GetSingleByteToken(*at);
-    if (m_token == nullptr)
-        return FindNextTokenFrom(at);
-    m_tokenStart = at;
-    m_tokenLength = 1;
-    return true;
-}
-
-// The short way over one-byte tokens that follow each other without text between them.
-void StateProcessor::PassTokensWithoutConsumer()
-{
-    char const* const end = m_source.GetEnd();
-    while (m_textStart != end)
+    for (;;)
     {
-        Internal::TokenTree const& tokens = *m_state->m_tokens;
-        StateToken const* const token = tokens.GetSingleByteToken(*m_textStart);
-        if (token == nullptr || token->action == StateToken::Action::Call)
-            return;
-        if (token->action == StateToken::Action::Transition)
+        if (m_state->m_hasBulkConsumer && !ConsumeInBulk())
+            return false;
+        FoundToken const next = FindTokenInMemory();
+        if (next.token == nullptr)
         {
-            SwitchState(token->nextStateId);
-            ++m_textStart;
+            found.start = next.start;
+            return true;
         }
-        else
-            m_textStart = tokens.SkipBlanks(m_textStart, end);
+        if (!ProcessToken(next))
+            return false;
     }
 }
 
-bool StateProcessor::FindNextTokenFrom(char const* at)
+// Passes tokens without consumer that have no text before them.
+inline StateProcessor::FoundToken StateProcessor::FindTokenInMemory()
 {
-    for (;;)
+    using Start = Internal::TokenTree::Start;
+    char const* const end = m_source.GetEnd();
+    char const* text = m_textStart;
+    while (text != end)
+    {
+        Internal::TokenTree const& tokens = *m_state->m_tokens;
+        Start start = tokens.GetStart(*text);
+        if (start == Start::Blank)
+        {
+            text = tokens.SkipBlanks(text + 1, end);
+            continue;
+        }
+        char const* at = text;
+        if (start == Start::Nothing)
+        {
+            at = tokens.FindTokenStart(text + 1, end);
+            if (at == end)
+                break;
+            start = tokens.GetStart(*at);
+        }
+        if (start == Start::Several)
+        {
+            m_textStart = text;
+            Internal::TokenTree::Match const match = tokens.MatchInMemory(at, end);
+            return { at, match.token, match.length };
+        }
+        StateToken const* const token = tokens.GetSingleByteToken(*at);
+        if (text != at || token->action != StateToken::Action::Transition)
+        {
+            m_textStart = text;
+            return { at, token, 1 };
+        }
+        SwitchState(token->nextStateId);
+        ++text;
+    }
+    m_textStart = text;
+    return { end, nullptr, 0 };
+}
+
+// The general way, from found.start on. The first place where a token matches wins, and there the longest token.
+bool StateProcessor::FindToken(FoundToken& found)
+{
+    for (char const* at = found.start;;)
     {
         at = m_state->m_tokens->FindTokenStart(at, m_source.GetEnd());
         if (at == m_source.GetEnd())
@@ -79,45 +106,42 @@ bool StateProcessor::FindNextTokenFrom(char const* at)
                 return false;
             continue;
         }
-        m_token = MatchToken(at);
-        if (m_token != nullptr)
-        {
-            m_tokenStart = at;
+        found = MatchToken(at);
+        if (found.token != nullptr)
             return true;
-        }
         ++at;
     }
 }
 
-StateToken* StateProcessor::MatchToken(char const*& at)
+StateProcessor::FoundToken StateProcessor::MatchToken(char const*& at)
 {
     Internal::TokenTree const& tokens = *m_state->m_tokens;
-    m_tokenLength = 0;
-    StateToken* const exact = tokens.HasCaseSensitiveTokens() ? MatchToken<true>(at) : nullptr;
-    if (!tokens.HasCaseInsensitiveTokens())
-        return exact;
-    StateToken* const folded = MatchToken<false>(at);
-    return folded != nullptr ? folded : exact;
+    FoundToken found{};
+    if (tokens.HasCaseSensitiveTokens())
+        MatchToken<true>(at, found);
+    if (tokens.HasCaseInsensitiveTokens())
+        MatchToken<false>(at, found);
+    found.start = at;
+    return found;
 }
 
-// The longest token of one case rule at `at`, if it is longer than m_tokenLength, which it then sets.
+// The longest token of one case rule at `at`, if it is longer than the one found.
 template <bool isCaseSensitive>
-StateToken* StateProcessor::MatchToken(char const*& at)
+void StateProcessor::MatchToken(char const*& at, FoundToken& found)
 {
     auto const fold = [](char c)
     {
         unsigned char const byte = static_cast<unsigned char>(c);
         return isCaseSensitive ? byte : Internal::ToAsciiLower(byte);
     };
-    StateToken* match = nullptr;
     Internal::TokenTree::Node const* node = m_state->m_tokens->GetRoot(fold(*at));
     for (std::size_t length = 1; node != nullptr; ++length)
     {
-        StateToken* const token = node->GetValue();
-        if (token != nullptr && token->isCaseSensitive == isCaseSensitive && length > m_tokenLength)
+        StateToken const* const token = node->GetValue();
+        if (token != nullptr && token->isCaseSensitive == isCaseSensitive && length > found.length)
         {
-            match = token;
-            m_tokenLength = length;
+            found.token = token;
+            found.length = length;
         }
         if (!node->HasChildren())
             break;
@@ -125,7 +149,6 @@ StateToken* StateProcessor::MatchToken(char const*& at)
             break;
         node = node->FindChild(fold(at[length]));
     }
-    return match;
 }
 
 // Makes the source longer; false at its end. What lies before `at` is text, whatever follows.
@@ -157,54 +180,46 @@ void StateProcessor::SetPendingTextAside(char const* end)
 
 bool StateProcessor::ConsumeInBulk()
 {
-    State::BulkConsumer const& consumer = *m_state->m_bulkConsumer;
-    if (!consumer || m_textStart == m_source.GetEnd())
+    if (m_textStart == m_source.GetEnd())
         return true;
     Internal::CallParams params = PrepareCall();
-    m_textStart = consumer(m_textStart, m_source.GetEnd(), params);
+    m_textStart = (*m_state->m_bulkConsumer)(m_textStart, m_source.GetEnd(), params);
     SwitchState(params.nextStateId);
     return IsGoingOn(params);
 }
 
-bool StateProcessor::ProcessToken()
+VEK_INLINE bool StateProcessor::ProcessToken(FoundToken const& found)
 {
-    if (m_textStart != m_tokenStart || m_isTextAside)
+    if (m_textStart != found.start || m_isTextAside)
     {
         State const* const state = m_state;
-        if (!ConsumeText(m_tokenStart))
+        if (!ConsumeText(found.start))
             return false;
-        MovePositionInStream(m_tokenStart);
+        MovePositionInStream(found.start);
         if (m_state != state)
             return true; // the new state recognises the token anew
     }
-    if (!ConsumeToken())
+    if (!ConsumeToken(*found.token))
         return false;
-    m_textStart = m_tokenStart + m_tokenLength;
+    m_textStart = found.start + found.length;
     return true;
 }
 
-bool StateProcessor::ConsumeToken()
+VEK_INLINE bool StateProcessor::ConsumeToken(StateToken const& token)
 {
-    StateToken const& token = *m_token;
-    switch (token.action)
-    {
-    case StateToken::Action::Skip:
-        return true;
-    case StateToken::Action::Transition:
+    if (token.action == StateToken::Action::Call)
+        return InvokeConsumer([&token](State::ResultParams& params) { token.consumer(params); });
+    if (token.action == StateToken::Action::Transition)
         SwitchState(token.nextStateId);
-        return true;
-    case StateToken::Action::Call:
-        break;
-    }
-    return InvokeConsumer([&token](State::ResultParams& params) { token.consumer(params); });
+    return true;
 }
 
-bool StateProcessor::ConsumeText(char const* end)
+VEK_INLINE bool StateProcessor::ConsumeText(char const* end)
 {
     State const& state = *m_state;
     if ((m_textStart == end && !m_isTextAside) || !state.m_takesText)
         return true;
-    if (m_isTextAside || !*state.m_textViewConsumer || *state.m_numberConsumer)
+    if (m_isTextAside || !state.m_takesViewsOnly)
         return ConsumeNumberOrText(end);
     std::string_view const text(m_textStart, static_cast<std::size_t>(end - m_textStart));
     return InvokeConsumer([&](State::ResultParams& params) { (*state.m_textViewConsumer)(text, params); });
@@ -233,16 +248,22 @@ std::string const& StateProcessor::GetPendingText(char const* end)
     return m_text;
 }
 
-Internal::CallParams StateProcessor::PrepareCall()
+// In an inner run, one of them may be running further out.
+void StateProcessor::ForgetReplacedConsumers(State& state)
 {
-    // In an inner run, one of them may be running further out.
-    if (!m_state->m_replacedConsumers.empty() && m_state->m_activeRuns == 1)
-        m_state->ForgetReplacedConsumers();
+    if (state.m_activeRuns == 1)
+        state.ForgetReplacedConsumers();
+}
+
+VEK_INLINE Internal::CallParams StateProcessor::PrepareCall()
+{
+    if (!m_state->m_replacedConsumers.empty())
+        ForgetReplacedConsumers(*m_state);
     return { { m_state->m_id, false, false, GetOffset() }, m_owner };
 }
 
 template <class Call>
-bool StateProcessor::InvokeConsumer(Call const& call)
+VEK_INLINE bool StateProcessor::InvokeConsumer(Call const& call)
 {
     Internal::CallParams params = PrepareCall();
     call(params);
@@ -252,15 +273,17 @@ bool StateProcessor::InvokeConsumer(Call const& call)
     return true;
 }
 
-bool StateProcessor::IsGoingOn(State::ResultParams const& params)
+VEK_INLINE bool StateProcessor::IsGoingOn(State::ResultParams const& params)
 {
-    if (params.isSyntaxError && !params.stop)
+    if (!(params.isSyntaxError | params.stop))
+        return true;
+    m_isEnded = true;
+    if (!params.stop)
         m_code = ParserResult::InvalidSyntax;
-    m_isEnded = params.stop || params.isSyntaxError;
-    return !m_isEnded;
+    return false;
 }
 
-void StateProcessor::SwitchState(unsigned int id)
+VEK_INLINE void StateProcessor::SwitchState(unsigned int id)
 {
     if (id != m_state->m_id)
         m_state = &m_states.Get(id);

@@ -34,21 +34,29 @@ public:
     ParserResult Process();
 
 private:
-    bool FindNextToken();
-    void PassTokensWithoutConsumer();
-    bool FindNextTokenFrom(char const* at);
-    Internal::StateToken* MatchToken(char const*& at);
+    struct FoundToken
+    {
+        char const* start;
+        Internal::StateToken const* token;
+        std::size_t length;
+    };
+
+    bool ConsumeInMemory(FoundToken& found);
+    FoundToken FindTokenInMemory();
+    bool FindToken(FoundToken& found);
+    FoundToken MatchToken(char const*& at);
     template <bool isCaseSensitive>
-    Internal::StateToken* MatchToken(char const*& at);
+    void MatchToken(char const*& at, FoundToken& found);
     bool ReadOn(char const*& at);
     void SetPendingTextAside(char const* end);
 
     bool ConsumeInBulk();
-    bool ProcessToken();
-    bool ConsumeToken();
+    bool ProcessToken(FoundToken const& found);
+    bool ConsumeToken(Internal::StateToken const& token);
     bool ConsumeText(char const* end);
     bool ConsumeNumberOrText(char const* end);
     std::string const& GetPendingText(char const* end);
+    static void ForgetReplacedConsumers(State& state);
     Internal::CallParams PrepareCall();
     template <class Call>
     bool InvokeConsumer(Call const& call);
@@ -70,10 +78,6 @@ private:
     char const* m_textStart;
     bool m_isTextAside = false;
     std::string m_text; // the pending text when set aside, otherwise the last text that was handed out
-
-    char const* m_tokenStart = nullptr;
-    Internal::StateToken const* m_token = nullptr;
-    std::size_t m_tokenLength = 0;
 
     bool m_isEnded = false; // by a consumer
     ParserResult::ResultCode m_code = ParserResult::Ok;

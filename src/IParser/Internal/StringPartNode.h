@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -21,9 +20,10 @@ public:
     /// The node of `part` below this one, or null. Few keys share a beginning, so a walk beats a hash.
     StringPartNode* FindChild(unsigned char part) const
     {
-        auto const found = std::find_if(m_children.begin(), m_children.end(),
-                                        [part](auto const& child) { return child.first == part; });
-        return found == m_children.end() ? nullptr : found->second;
+        for (auto const& child : m_children)
+            if (child.first == part)
+                return child.second;
+        return nullptr;
     }
 
     void AddChild(unsigned char part, StringPartNode& child) { m_children.emplace_back(part, &child); }

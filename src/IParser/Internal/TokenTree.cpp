@@ -67,8 +67,14 @@ void TokenTree::Classify(unsigned char byte)
     if (isStart)
         m_starts.Add(byte);
 
-    m_singles[byte] = FindSingleByteToken(byte);
-    if (m_singles[byte] != nullptr && m_singles[byte]->action == StateToken::Action::Skip)
+    StateToken const* const single = FindSingleByteToken(byte);
+    bool const isBlank = single != nullptr && single->action == StateToken::Action::Skip;
+    m_singles[byte] = single;
+    m_kinds[byte] = isBlank             ? Start::Blank
+                    : single != nullptr ? Start::Single
+                    : isStart           ? Start::Several
+                                        : Start::Nothing;
+    if (isBlank)
         m_blanks.Add(byte);
     else
         m_blanks.Remove(byte);
@@ -82,6 +88,25 @@ StateToken const* TokenTree::FindSingleByteToken(unsigned char byte) const
         return nullptr;
     StateToken const* const token = root->GetValue(); // not null: a node without children ends a key
     return token->isCaseSensitive ? token : nullptr;
+}
+
+TokenTree::Match TokenTree::MatchInMemory(char const* at, char const* end) const
+{
+    Match longest{ nullptr, 0 };
+    if (m_hasCaseInsensitiveTokens)
+        return longest;
+    Node const* node = m_roots[static_cast<unsigned char>(*at)];
+    for (char const* next = at + 1; node != nullptr; ++next)
+    {
+        if (node->GetValue() != nullptr)
+            longest = { node->GetValue(), static_cast<std::size_t>(next - at) };
+        if (!node->HasChildren())
+            break;
+        if (next == end)
+            return { nullptr, 0 };
+        node = node->FindChild(static_cast<unsigned char>(*next));
+    }
+    return longest;
 }
 
 StateToken* TokenTree::FindLongestPrefix(std::string const& text) const

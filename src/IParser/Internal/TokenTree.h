@@ -42,6 +42,25 @@ public:
     /// The token that `first` alone makes, whatever follows; null when more of the source has to be seen.
     StateToken const* GetSingleByteToken(char first) const { return m_singles[static_cast<unsigned char>(first)]; }
 
+    /// What begins with a byte.
+    enum class Start : unsigned char
+    {
+        Nothing, ///< text
+        Single,  ///< a token by itself, which GetSingleByteToken tells
+        Blank,   ///< the same, and it is skipped
+        Several  ///< what follows tells
+    };
+    Start GetStart(char first) const { return m_kinds[static_cast<unsigned char>(first)]; }
+
+    struct Match
+    {
+        StateToken const* token;
+        std::size_t length;
+    };
+    /// The longest token at `at`, where one may begin; null when there is none, and when that hangs on what comes
+    /// behind `end` or on the case of letters.
+    Match MatchInMemory(char const* at, char const* end) const;
+
 private:
     template <class Fold>
     StateToken* FindLongestPrefix(std::string const& text, Fold fold) const;
@@ -56,6 +75,7 @@ private:
     ByteFinder m_starts;
     ByteFinder m_blanks;
     std::array<StateToken const*, 256> m_singles{};
+    std::array<Start, 256> m_kinds{};
     bool m_hasCaseSensitiveTokens = false;
     bool m_hasCaseInsensitiveTokens = false;
 };
