@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <emmintrin.h>
 #include <type_traits>
 
@@ -108,6 +110,38 @@ inline void StoreDigits(wchar_t* units, std::uint64_t digits) noexcept
     __m128i const lower = _mm_and_si128(packed, nibble);
     __m128i const upper = _mm_and_si128(_mm_srli_epi64(packed, 4), nibble);
     StoreWidened(units, _mm_or_si128(_mm_unpacklo_epi8(upper, lower), _mm_set1_epi8('0')));
+}
+
+/// Writes four lanes of sixteen bits, the lowest first, as units.
+inline void StoreFour(wchar_t* units, std::uint64_t lanes) noexcept
+{
+    __m128i const four = _mm_cvtsi64_si128(static_cast<long long>(lanes));
+    auto* const target = reinterpret_cast<__m128i*>(units);
+    if constexpr (sizeof(wchar_t) == 2)
+        _mm_storel_epi64(target, four);
+    else
+        _mm_storeu_si128(target, _mm_unpacklo_epi16(four, _mm_setzero_si128()));
+}
+
+/// Moves those of four units behind the first `kept` ones by one; the last one falls off.
+inline void OpenGap(wchar_t* units, std::size_t kept) noexcept
+{
+    static constexpr std::int32_t masks[] = { -1, -1, -1, -1, 0, 0, 0, 0 };
+    if constexpr (sizeof(wchar_t) == 2)
+    {
+        std::uint64_t four = 0;
+        std::memcpy(&four, units, sizeof(four));
+        std::uint64_t const behind = four & ~std::uint64_t{ 0 } << 16 * kept;
+        four = (four - behind) | behind << 16U;
+        std::memcpy(units, &four, sizeof(four));
+    }
+    else
+    {
+        __m128i const four = LoadBytes(units);
+        __m128i const keeps = LoadBytes(masks + 4 - kept);
+        __m128i const moved = _mm_slli_si128(_mm_andnot_si128(keeps, four), 4);
+        StoreBytes(units, _mm_or_si128(_mm_and_si128(keeps, four), moved));
+    }
 }
 
 /// One bit for each of sixteen bytes: set where the byte's highest bit is.

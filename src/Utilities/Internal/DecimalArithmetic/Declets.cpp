@@ -98,6 +98,14 @@ constinit std::array<std::uint16_t, 4096> const c_decletsOfGroups =
                                               table[value + 4096 - 1000] = static_cast<std::uint16_t>(declet);
                                           });
 
+constinit std::array<std::uint64_t, 1024> const c_charactersOfDeclets = Fill<std::array<std::uint64_t, 1024>>(
+    1024,
+    [](auto& table, unsigned declet)
+    {
+        std::uint64_t const digits = DecodeDeclet(declet);
+        table[declet] = 0x0030'0030'0030 | digits >> 8 | (digits >> 4 & 15U) << 16 | (digits & 15U) << 32;
+    });
+
 constinit std::array<std::uint8_t, 1024> const c_lengthsOfDeclets = Fill<std::array<std::uint8_t, 1024>>(
     1024,
     [](auto& table, unsigned declet)

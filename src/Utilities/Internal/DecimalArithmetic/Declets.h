@@ -25,6 +25,9 @@ extern std::array<std::uint16_t, 4096> const c_decletsOfDigits;
 /// 4096 - 1000 more.
 extern std::array<std::uint16_t, 4096> const c_decletsOfGroups;
 
+/// Three digits as characters of sixteen bits, the first one lowest.
+extern std::array<std::uint64_t, 1024> const c_charactersOfDeclets;
+
 /// How many digits a declet has without zeros in front: 0 to 3.
 extern std::array<std::uint8_t, 1024> const c_lengthsOfDeclets;
 

@@ -1,7 +1,9 @@
 #include <Utilities/Internal/DecimalArithmetic/Text.h>
 
+#include <Platform/Attributes.h>
 #include <Platform/WideBlock.h>
 #include <Utilities/Internal/DecimalArithmetic/PackedDigits.h>
+#include <Utilities/Internal/ResizeAndOverwrite.h>
 
 #include <algorithm>
 #include <bit>
@@ -95,141 +97,117 @@ constexpr bool IsShort(Encoding value) noexcept
     return exponent <= 0 && exponent > -c_wordDigits;
 }
 
-/// A sign, and sixteen units in one go.
-constexpr std::size_t c_shortRoom = 1 + 16;
-
-/// Into c_shortRoom units; answers how many of them are the text.
-std::size_t WriteShort(wchar_t* target, Encoding value, wchar_t separator) noexcept
+/// All but so many digits at the end.
+constexpr auto c_digitsBefore = []
 {
-    std::uint64_t const digits = UnpackDigits(value.low);
-    int const fraction = -GetSmallExponent(value);
-    int const count = std::max(fraction + 1, (static_cast<int>(std::bit_width(digits | 1U)) + 3) / 4);
-    // Sixteen digits of four bits, the first one on top, with a gap before the fraction.
-    std::uint64_t const whole = digits & ~std::uint64_t{ 0 } << 4 * fraction;
-    std::uint64_t const spread = digits + whole * 15;
-    unsigned const sign = IsNegative(value) && digits != 0 ? 1 : 0;
-    target[0] = L'-';
-    target += sign;
-    Platform::StoreDigits(target, spread << 4 * (c_wordDigits - count));
-    target[count - fraction] = separator;
-    return sign + static_cast<unsigned>(count + (fraction != 0 ? 1 : 0));
-}
+    std::array<std::uint64_t, c_wordDigits> masks{};
+    for (unsigned i = 0; i < masks.size(); ++i)
+        masks[i] = ~std::uint64_t{ 0 } << 4 * i;
+    return masks;
+}();
 
-/// Digits of four bits, sixteen to a word, the first one on top. No array: words that go through memory one by one and
-/// come back as a pair are waited for.
-struct DigitBlocks
+/// Such a number, and how it is to be written.
+struct ShortText
 {
-    std::uint64_t first;
-    std::uint64_t second;
-    std::uint64_t third;
+    explicit ShortText(Encoding value) noexcept
+    {
+        std::uint64_t const digits = UnpackDigits(value.low);
+        int const fraction = -GetSmallExponent(value);
+        int const count = std::max(fraction + 1, (static_cast<int>(std::bit_width(digits | 1U)) + 3) / 4);
+        std::uint64_t const before = digits & c_digitsBefore[static_cast<std::size_t>(fraction)];
+        spread = (digits + before * 15) << 4 * (c_wordDigits - count);
+        whole = static_cast<unsigned>(count - fraction);
+        sign = IsNegative(value) && digits != 0 ? 1 : 0;
+        size = sign + static_cast<unsigned>(count + (fraction != 0 ? 1 : 0));
+    }
+
+    /// A sign, and sixteen units in one go.
+    static constexpr std::size_t c_room = 1 + 16;
+
+    std::size_t Write(wchar_t* target, wchar_t separator) const noexcept
+    {
+        target[0] = L'-';
+        Platform::StoreDigits(target + sign, spread);
+        target[sign + whole] = separator;
+        return size;
+    }
+
+    std::uint64_t spread; // sixteen digits of four bits, the first one on top, with a gap before the fraction
+    unsigned whole;       // digits before the separator
+    unsigned sign;        // 0 or 1 unit
+    unsigned size;
 };
 
-/// More digits, and how they are to be written.
-struct LongText
-{
-    DigitBlocks blocks; // the separator's place included
-    bool isNegative;
-    int whole; // digits before the separator
-    int size;  // without the sign, 16 to 47
-};
+constexpr std::size_t c_declets = 11;
 
-/// By up to fifteen digits.
-constexpr std::uint64_t JoinShifted(std::uint64_t first, std::uint64_t second, int digits) noexcept
+/// All 34 digits: those of the declets behind the first `before` one unit further down.
+VEK_INLINE void WriteDigits(wchar_t* target, Encoding value, std::size_t before) noexcept
 {
-    return first << 4 * digits | second >> 4U >> (60 - 4 * digits);
+    static constexpr std::uint8_t gaps[2 * c_declets] = { 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,
+                                                          1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1 };
+    std::uint8_t const* const gap = gaps + c_declets - before;
+    auto const write = [target, gap](std::size_t index, std::size_t declet)
+    { Platform::StoreFour(target + 1 + 3 * index + gap[index], c_charactersOfDeclets[declet]); };
+    std::uint64_t const upper = GetUpperDeclets(value);
+    target[0] = static_cast<wchar_t>(L'0' + GetFirstDigit(value));
+    write(0, GetDeclet(upper, 4));
+    write(1, GetDeclet(upper, 3));
+    write(2, GetDeclet(upper, 2));
+    write(3, GetDeclet(upper, 1));
+    write(4, GetDeclet(upper, 0));
+    write(5, GetDeclet(value.low, 5));
+    write(6, GetDeclet(value.low, 4));
+    write(7, GetDeclet(value.low, 3));
+    write(8, GetDeclet(value.low, 2));
+    write(9, GetDeclet(value.low, 1));
+    write(10, GetDeclet(value.low, 0));
 }
 
-/// All that begins with the digit at `index` moved by one. The index may lie before the block or behind it.
-constexpr std::uint64_t OpenGap(std::uint64_t before, std::uint64_t block, int index) noexcept
+/// All 34 digits with the separator behind `whole` of them, 1 to 34, and a zero behind all.
+VEK_INLINE void WriteSeparated(wchar_t* target, Encoding value, std::size_t whole, wchar_t separator) noexcept
 {
-    std::uint64_t const moved = before << 60U | block >> 4U;
-    std::uint64_t const all = ~std::uint64_t{ 0 };
-    std::uint64_t const kept = index <= 0 ? 0 : index >= 16 ? all : ~(all >> 4 * index);
-    return (block & kept) | (moved & ~kept);
+    std::size_t const before = (whole + 1) / 3; // declets that begin before the separator
+    WriteDigits(target, value, before);
+    if (before != 0)
+        Platform::OpenGap(target + 3 * before - 2, whole + 2 - 3 * before);
+    target[whole] = separator;
 }
 
-LongText MakeLongText(Encoding value) noexcept
-{
-    PackedDigits const digits = UnpackAllDigits(value);
-    int const fraction = -GetExponent(value);
-    int const count = std::max(fraction + 1, CountDigits(digits));
-    int const whole = count - fraction;
-    DigitBlocks all{ digits.high, digits.middle << 4U | digits.low >> 56U, digits.low << 8U }; // the last two are none
-    int zeros = 46 - count;
-    for (; zeros >= 16; zeros -= 16)
-        all = { all.second, all.third, 0 };
-    all = { JoinShifted(all.first, all.second, zeros), JoinShifted(all.second, all.third, zeros),
-            all.third << 4 * zeros };
-    return { { OpenGap(0, all.first, whole), OpenGap(all.first, all.second, whole - 16),
-               OpenGap(all.second, all.third, whole - 32) },
-             IsNegative(value) && !digits.IsZero(),
-             whole,
-             fraction == 0 ? count : count + 1 };
-}
+constexpr std::size_t c_separatedSize = c_precision + 1;
 
-/// In place, the last sixteen units over those before.
-void WriteLong(wchar_t* target, LongText const& text, wchar_t separator) noexcept
+/// All 34 digits with zeros in front, of which one at most is written. At most 45 stand behind the separator.
+VEK_NOINLINE void AppendPadded(std::wstring& target, Encoding value, wchar_t separator)
 {
-    DigitBlocks const& blocks = text.blocks;
-    *target = L'-';
-    target += text.isNegative ? 1 : 0;
-    Platform::StoreDigits(target, blocks.first);
-    if (text.size >= 32)
+    int const whole = c_precision + GetExponent(value);
+    int const zeros = c_precision - CountDigits(value);
+    wchar_t text[1 + 16 + c_separatedSize + 1];
+    wchar_t* begin = text + 1;
+    wchar_t* end = begin + c_separatedSize - (whole == c_precision ? 1 : 0);
+    if (whole > 0)
     {
-        Platform::StoreDigits(target + 16, blocks.second);
-        Platform::StoreDigits(target + text.size - 16, JoinShifted(blocks.second, blocks.third, text.size - 32));
+        WriteSeparated(begin, value, static_cast<std::size_t>(whole), separator);
+        begin += std::min(zeros, whole - 1);
     }
     else
-        Platform::StoreDigits(target + text.size - 16, JoinShifted(blocks.first, blocks.second, text.size - 16));
-    if (text.whole != text.size)
-        target[text.whole] = separator;
-}
-
-/// Up to 46 digits, with the zeros before and behind the separator, and at least sixteen units.
-constexpr int c_longDigits = 46;
-
-bool IsLong(Encoding value) noexcept
-{
-    int const exponent = GetExponent(value); // far above 0 for an Infinity or NaN
-    if (exponent > 0 || exponent <= -c_longDigits)
-        return false;
-    return exponent <= -c_wordDigits || CountDigits(value) >= 16;
-}
-
-/// More units at the end. They are to be written over; a copy of constants is the quickest way to make them.
-wchar_t* Grow(std::wstring& target, std::size_t count)
-{
-    static constexpr wchar_t filler[1 + 16 * 3]{};
-    std::size_t const size = target.size();
-    target.append(filler, count);
-    return target.data() + size;
-}
-
-void AppendShort(std::wstring& target, Encoding value, wchar_t separator)
-{
-    std::size_t const size = target.size();
-    if (target.capacity() - size < c_shortRoom)
     {
-        wchar_t text[c_shortRoom];
-        target.append(text, WriteShort(text, value, separator));
-        return;
+        std::fill_n(begin, 16, L'0');
+        begin[1] = separator;
+        wchar_t* const digits = begin + 2 - whole;
+        WriteDigits(digits, value, c_declets);
+        end = digits + c_precision;
     }
-    wchar_t* const end = Grow(target, c_shortRoom);
-    target.resize(size + WriteShort(end, value, separator));
+    if (IsNegative(value) && zeros != c_precision)
+        *--begin = L'-';
+    target.append(begin, end);
 }
 
-void AppendLong(std::wstring& target, Encoding value, wchar_t separator)
+VEK_NOINLINE void AppendShort(std::wstring& target, ShortText const& text, wchar_t separator)
 {
-    LongText const text = MakeLongText(value);
-    WriteLong(Grow(target, static_cast<std::size_t>(text.size + (text.isNegative ? 1 : 0))), text, separator);
-}
-
-void AppendOther(std::wstring& target, Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping)
-{
-    if (IsFinite(value))
-        AppendFinite(target, value, separator, grouping);
-    else
-        AppendSpecial(target, value);
+    wchar_t units[ShortText::c_room];
+    text.Write(units, separator);
+    if (target.size() + text.size > target.capacity())
+        target.reserve(target.size() + ShortText::c_room); // so that the next one finds room
+    target.append(units, text.size);
 }
 
 bool IsPlain(CodePoint const& separator, Nullable<CodePoint> const& grouping) noexcept
@@ -237,30 +215,73 @@ bool IsPlain(CodePoint const& separator, Nullable<CodePoint> const& grouping) no
     return separator.IsSingleCodeUnit() && !grouping.HasValue();
 }
 
+/// Whatever is not written in place.
+VEK_NOINLINE void AppendAny(std::wstring& target, Encoding value, CodePoint const& separator,
+                            Nullable<CodePoint> const& grouping)
+{
+    int const exponent = GetExponent(value); // far above 0 for an Infinity or NaN
+    if (IsPlain(separator, grouping) && IsShort(value))
+        AppendShort(target, ShortText(value), *separator.begin());
+    else if (IsPlain(separator, grouping) && exponent <= 0 && exponent > -46)
+        AppendPadded(target, value, *separator.begin());
+    else if (IsFinite(value))
+        AppendFinite(target, value, separator, grouping);
+    else
+        AppendSpecial(target, value);
+}
+
+/// All 34 digits in place, if the string has room.
+VEK_NOINLINE void AppendFull(std::wstring& target, Encoding value, CodePoint const& separator,
+                             Nullable<CodePoint> const& grouping)
+{
+    int const exponent = GetExponent(value);
+    std::size_t const size = target.size();
+    std::size_t const sign = IsNegative(value) ? 1 : 0;
+    if (exponent > 0 || exponent <= -c_precision || GetFirstDigit(value) == 0 ||
+        size + sign + c_separatedSize > target.capacity())
+        return AppendAny(target, value, separator, grouping);
+    ResizeAndOverwrite(target, size + sign + c_separatedSize,
+                       [=, unit = *separator.begin()](wchar_t* units, std::size_t) noexcept
+                       {
+                           units[size] = L'-';
+                           WriteSeparated(units + size + sign, value, static_cast<std::size_t>(c_precision + exponent),
+                                          unit);
+                           return size + sign + c_separatedSize - (exponent == 0 ? 1 : 0);
+                       });
+}
+
 } // namespace
 
 void AppendText(std::wstring& target, Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping)
 {
     if (!IsPlain(separator, grouping))
-        AppendOther(target, value, separator, grouping);
-    else if (IsShort(value))
-        AppendShort(target, value, *separator.begin());
-    else if (IsLong(value))
-        AppendLong(target, value, *separator.begin());
-    else
-        AppendOther(target, value, separator, grouping);
+        return AppendAny(target, value, separator, grouping);
+    std::size_t const size = target.size();
+    if (!IsShort(value) || size + ShortText::c_room > target.capacity())
+        return AppendFull(target, value, separator, grouping);
+    ResizeAndOverwrite(target, size + ShortText::c_room,
+                       [=, unit = *separator.begin()](wchar_t* units, std::size_t) noexcept
+                       { return size + ShortText(value).Write(units + size, unit); });
 }
 
 std::wstring MakeText(Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping)
 {
-    if (IsPlain(separator, grouping) && IsShort(value))
+    std::wstring target;
+    if (!IsPlain(separator, grouping) || !IsShort(value))
     {
-        wchar_t text[c_shortRoom];
-        return std::wstring(text, WriteShort(text, value, *separator.begin()));
+        if (IsFinite(value) && GetFirstDigit(value) != 0)
+            target.reserve(1 + c_separatedSize);
+        AppendText(target, value, separator, grouping);
+        return target;
     }
-    std::wstring text;
-    AppendText(text, value, separator, grouping);
-    return text;
+    ShortText const text(value);
+    if (text.size <= target.capacity())
+        AppendShort(target, text, *separator.begin());
+    else
+        ResizeAndOverwrite(target, ShortText::c_room,
+                           [text, unit = *separator.begin()](wchar_t* units, std::size_t) noexcept
+                           { return text.Write(units, unit); });
+    return target;
 }
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic
