@@ -219,13 +219,13 @@ Decimal Decimal::FromString(std::wstring const& text, CodePoint const& separator
 
 std::wstring Decimal::ToString(CodePoint const& separator, Nullable<CodePoint> const& grouping) const
 {
-    return MakeText(ToEncoding(*this), separator, grouping);
+    return MakeText(*this, separator, grouping);
 }
 
 void Decimal::AppendToString(std::wstring& target, CodePoint const& separator,
                              Nullable<CodePoint> const& grouping) const
 {
-    AppendText(target, ToEncoding(*this), separator, grouping);
+    AppendText(*this, target, separator, grouping);
 }
 
 } // namespace Vek::Framework::Utilities

@@ -117,3 +117,26 @@ TEST(DecimalText, ToStringAndBack)
         ASSERT_EQ(value.ToString(L',', CodePoint(L'.')), WritePlainly(value));
     }
 }
+
+TEST(DecimalText, IntoAnyRoom)
+{
+    RandomDecimal random(41);
+    for (unsigned i = 0; i < GetDifferentialCases() / 100; ++i)
+    {
+        std::string digits = i % 3 == 0 ? "-" : "";
+        for (unsigned left = 1 + random.Below(34); left != 0; --left)
+            digits += static_cast<char>('0' + random.Below(10));
+        Decimal const value = Plain::Scan(digits + "E-" + std::to_string(random.Below(i % 2 == 0 ? 5 : 50)));
+        std::wstring const grouped = WritePlainly(value);
+        std::wstring plain = grouped;
+        std::erase(plain, L'.');
+        for (bool const isGrouped : { false, true })
+        {
+            std::wstring target = L"x";
+            target.reserve(random.Below(64));
+            value.AppendToString(target, L',', isGrouped ? Nullable<CodePoint>(L'.') : Nullable<CodePoint>());
+            ASSERT_EQ(target, L"x" + (isGrouped ? grouped : plain));
+            ASSERT_EQ(target.c_str()[target.size()], L'\0');
+        }
+    }
+}

@@ -1,12 +1,11 @@
 #include <Utilities/Internal/DecimalArithmetic/Text.h>
 
 #include <Platform/Attributes.h>
-#include <Platform/WideBlock.h>
-#include <Utilities/Internal/DecimalArithmetic/PackedDigits.h>
+#include <Utilities/Internal/DecimalArithmetic/LongText.h>
+#include <Utilities/Internal/DecimalArithmetic/ShortText.h>
 #include <Utilities/Internal/ResizeAndOverwrite.h>
 
 #include <algorithm>
-#include <bit>
 
 namespace Vek::Framework::Utilities::DecimalArithmetic
 {
@@ -88,92 +87,31 @@ void AppendFinite(std::wstring& target, Encoding value, CodePoint const& separat
                   static_cast<std::size_t>(digits.GetCount() - std::max(0, whole)));
 }
 
-/// Up to fifteen digits, with the zeros before and behind the separator: nearly every amount.
-constexpr bool IsShort(Encoding value) noexcept
+/// What `write` writes into up to `Room` units and tells the size of: in place if the string has room.
+template <std::size_t Room, class Write>
+void AppendBy(std::wstring& target, Write const& write)
 {
-    if (!IsSmall<c_packedBits>(value))
-        return false;
-    int const exponent = GetSmallExponent(value);
-    return exponent <= 0 && exponent > -c_wordDigits;
+    std::size_t const size = target.size();
+    if (size + Room <= target.capacity())
+        return ResizeAndOverwrite(target, size + Room,
+                                  [=](wchar_t* units, std::size_t) noexcept { return size + write(units + size); });
+    wchar_t units[Room];
+    std::size_t const count = write(units);
+    if (size + count > target.capacity())
+        target.reserve(size + Room); // so that the next text finds it
+    target.append(units, count);
 }
 
-/// All but so many digits at the end.
-constexpr auto c_digitsBefore = []
+VEK_NOINLINE void AppendShort(std::wstring& target, ShortText const& text, wchar_t separator)
 {
-    std::array<std::uint64_t, c_wordDigits> masks{};
-    for (unsigned i = 0; i < masks.size(); ++i)
-        masks[i] = ~std::uint64_t{ 0 } << 4 * i;
-    return masks;
-}();
-
-/// Such a number, and how it is to be written.
-struct ShortText
-{
-    explicit ShortText(Encoding value) noexcept
-    {
-        std::uint64_t const digits = UnpackDigits(value.low);
-        int const fraction = -GetSmallExponent(value);
-        int const count = std::max(fraction + 1, (static_cast<int>(std::bit_width(digits | 1U)) + 3) / 4);
-        std::uint64_t const before = digits & c_digitsBefore[static_cast<std::size_t>(fraction)];
-        spread = (digits + before * 15) << 4 * (c_wordDigits - count);
-        whole = static_cast<unsigned>(count - fraction);
-        sign = IsNegative(value) && digits != 0 ? 1 : 0;
-        size = sign + static_cast<unsigned>(count + (fraction != 0 ? 1 : 0));
-    }
-
-    /// A sign, and sixteen units in one go.
-    static constexpr std::size_t c_room = 1 + 16;
-
-    std::size_t Write(wchar_t* target, wchar_t separator) const noexcept
-    {
-        target[0] = L'-';
-        Platform::StoreDigits(target + sign, spread);
-        target[sign + whole] = separator;
-        return size;
-    }
-
-    std::uint64_t spread; // sixteen digits of four bits, the first one on top, with a gap before the fraction
-    unsigned whole;       // digits before the separator
-    unsigned sign;        // 0 or 1 unit
-    unsigned size;
-};
-
-constexpr std::size_t c_declets = 11;
-
-/// All 34 digits: those of the declets behind the first `before` one unit further down.
-VEK_INLINE void WriteDigits(wchar_t* target, Encoding value, std::size_t before) noexcept
-{
-    static constexpr std::uint8_t gaps[2 * c_declets] = { 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,
-                                                          1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1 };
-    std::uint8_t const* const gap = gaps + c_declets - before;
-    auto const write = [target, gap](std::size_t index, std::size_t declet)
-    { Platform::StoreFour(target + 1 + 3 * index + gap[index], c_charactersOfDeclets[declet]); };
-    std::uint64_t const upper = GetUpperDeclets(value);
-    target[0] = static_cast<wchar_t>(L'0' + GetFirstDigit(value));
-    write(0, GetDeclet(upper, 4));
-    write(1, GetDeclet(upper, 3));
-    write(2, GetDeclet(upper, 2));
-    write(3, GetDeclet(upper, 1));
-    write(4, GetDeclet(upper, 0));
-    write(5, GetDeclet(value.low, 5));
-    write(6, GetDeclet(value.low, 4));
-    write(7, GetDeclet(value.low, 3));
-    write(8, GetDeclet(value.low, 2));
-    write(9, GetDeclet(value.low, 1));
-    write(10, GetDeclet(value.low, 0));
+    AppendBy<ShortText::c_room>(target, [=](wchar_t* units) noexcept { return text.Write(units, separator); });
 }
 
-/// All 34 digits with the separator behind `whole` of them, 1 to 34, and a zero behind all.
-VEK_INLINE void WriteSeparated(wchar_t* target, Encoding value, std::size_t whole, wchar_t separator) noexcept
+VEK_NOINLINE void AppendGrouped(std::wstring& target, Encoding value, wchar_t separator, wchar_t grouping)
 {
-    std::size_t const before = (whole + 1) / 3; // declets that begin before the separator
-    WriteDigits(target, value, before);
-    if (before != 0)
-        Platform::OpenGap(target + 3 * before - 2, whole + 2 - 3 * before);
-    target[whole] = separator;
+    AppendBy<c_groupedRoom>(target,
+                            [=](wchar_t* units) noexcept { return WriteGrouped(units, value, separator, grouping); });
 }
-
-constexpr std::size_t c_separatedSize = c_precision + 1;
 
 /// All 34 digits with zeros in front, of which one at most is written. At most 45 stand behind the separator.
 VEK_NOINLINE void AppendPadded(std::wstring& target, Encoding value, wchar_t separator)
@@ -193,21 +131,12 @@ VEK_NOINLINE void AppendPadded(std::wstring& target, Encoding value, wchar_t sep
         std::fill_n(begin, 16, L'0');
         begin[1] = separator;
         wchar_t* const digits = begin + 2 - whole;
-        WriteDigits(digits, value, c_declets);
+        WriteDigits(digits, value, c_decletsCount);
         end = digits + c_precision;
     }
     if (IsNegative(value) && zeros != c_precision)
         *--begin = L'-';
     target.append(begin, end);
-}
-
-VEK_NOINLINE void AppendShort(std::wstring& target, ShortText const& text, wchar_t separator)
-{
-    wchar_t units[ShortText::c_room];
-    text.Write(units, separator);
-    if (target.size() + text.size > target.capacity())
-        target.reserve(target.size() + ShortText::c_room); // so that the next one finds room
-    target.append(units, text.size);
 }
 
 bool IsPlain(CodePoint const& separator, Nullable<CodePoint> const& grouping) noexcept
@@ -224,6 +153,9 @@ VEK_NOINLINE void AppendAny(std::wstring& target, Encoding value, CodePoint cons
         AppendShort(target, ShortText(value), *separator.begin());
     else if (IsPlain(separator, grouping) && exponent <= 0 && exponent > -46)
         AppendPadded(target, value, *separator.begin());
+    else if (IsShort(value) && FitsFourGroups(value) && separator.IsSingleCodeUnit() && grouping.HasValue() &&
+             grouping.GetValue().IsSingleCodeUnit())
+        AppendGrouped(target, value, *separator.begin(), *grouping.GetValue().begin());
     else if (IsFinite(value))
         AppendFinite(target, value, separator, grouping);
     else
@@ -252,8 +184,10 @@ VEK_NOINLINE void AppendFull(std::wstring& target, Encoding value, CodePoint con
 
 } // namespace
 
-void AppendText(std::wstring& target, Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping)
+void AppendText(Decimal const& number, std::wstring& target, CodePoint const& separator,
+                Nullable<CodePoint> const& grouping)
 {
+    Encoding const value = ToEncoding(number);
     if (!IsPlain(separator, grouping))
         return AppendAny(target, value, separator, grouping);
     std::size_t const size = target.size();
@@ -264,23 +198,24 @@ void AppendText(std::wstring& target, Encoding value, CodePoint const& separator
                        { return size + ShortText(value).Write(units + size, unit); });
 }
 
-std::wstring MakeText(Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping)
+std::wstring MakeText(Decimal const& number, CodePoint const& separator, Nullable<CodePoint> const& grouping)
 {
+    Encoding const value = ToEncoding(number);
     std::wstring target;
-    if (!IsPlain(separator, grouping) || !IsShort(value))
+    if (IsPlain(separator, grouping) && IsShort(value))
     {
-        if (IsFinite(value) && GetFirstDigit(value) != 0)
-            target.reserve(1 + c_separatedSize);
-        AppendText(target, value, separator, grouping);
+        ShortText const text(value);
+        if (text.size <= target.capacity())
+            AppendShort(target, text, *separator.begin());
+        else
+            ResizeAndOverwrite(target, ShortText::c_room,
+                               [text, unit = *separator.begin()](wchar_t* units, std::size_t) noexcept
+                               { return text.Write(units, unit); });
         return target;
     }
-    ShortText const text(value);
-    if (text.size <= target.capacity())
-        AppendShort(target, text, *separator.begin());
-    else
-        ResizeAndOverwrite(target, ShortText::c_room,
-                           [text, unit = *separator.begin()](wchar_t* units, std::size_t) noexcept
-                           { return text.Write(units, unit); });
+    if (IsPlain(separator, grouping) && IsFinite(value) && GetFirstDigit(value) != 0)
+        target.reserve(1 + c_separatedSize);
+    AppendText(number, target, separator, grouping);
     return target;
 }
 

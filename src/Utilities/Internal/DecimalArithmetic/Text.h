@@ -22,7 +22,8 @@ struct ParsedNumber
 ParsedNumber Parse(std::wstring_view text, wchar_t separator) noexcept;
 
 /// Writes as Decimal::AppendToString describes. Nothing is allocated but by the string, and once.
-void AppendText(std::wstring& target, Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping);
-std::wstring MakeText(Encoding value, CodePoint const& separator, Nullable<CodePoint> const& grouping);
+void AppendText(Decimal const& number, std::wstring& target, CodePoint const& separator,
+                Nullable<CodePoint> const& grouping);
+std::wstring MakeText(Decimal const& number, CodePoint const& separator, Nullable<CodePoint> const& grouping);
 
 } // namespace Vek::Framework::Utilities::DecimalArithmetic
