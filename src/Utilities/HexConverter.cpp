@@ -18,7 +18,7 @@ namespace
 bool IsDigit(wchar_t unit) noexcept
 {
     auto const value = Platform::ToUnsigned(unit);
-    return value <= 0xFF && c_hexDigitValues[value] >= 0;
+    return value <= 0xFF && c_hexDigitValues[1][value] >= 0;
 }
 
 } // namespace
@@ -42,8 +42,8 @@ bool HexConverter::TryReadBytes(std::wstring_view text, std::unique_ptr<SizedArr
         return false;
     }
     for (std::size_t at = taken; at != text.size(); at += 2)
-        result->GetAt(at / 2) = static_cast<unsigned char>(c_hexDigitValues[Platform::ToUnsigned(text[at])] * 16 |
-                                                           c_hexDigitValues[Platform::ToUnsigned(text[at + 1])]);
+        result->GetAt(at / 2) = static_cast<unsigned char>(c_hexDigitValues[0][Platform::ToUnsigned(text[at])] |
+                                                           c_hexDigitValues[1][Platform::ToUnsigned(text[at + 1])]);
     bytes = std::move(result);
     return true;
 }

@@ -11,16 +11,21 @@
 namespace Vek::Framework::Utilities
 {
 
-/// The values of the 8-bit characters as hexadecimal digits, negative for what is none. A table, because which kind of
-/// digit comes next no processor can foretell, and compilers make branches of comparisons.
-inline constexpr std::array<int, 256> c_hexDigitValues = []
+/// The values of the 8-bit characters as hexadecimal digits, negative for what is none: times 16 as the upper digit of
+/// a byte, then as the lower one. Tables, because which kind of digit comes next no processor can foretell, and
+/// compilers make branches of comparisons.
+inline constexpr std::array<std::array<int, 256>, 2> c_hexDigitValues = []
 {
-    std::array<int, 256> values{};
-    values.fill(-1);
+    std::array<std::array<int, 256>, 2> values{};
+    values[0].fill(-1);
+    values[1].fill(-1);
     for (int value = 0; value < 16; ++value)
     {
-        values[static_cast<unsigned char>("0123456789abcdef"[value])] = value;
-        values[static_cast<unsigned char>("0123456789ABCDEF"[value])] = value;
+        for (char const digit : { "0123456789abcdef"[value], "0123456789ABCDEF"[value] })
+        {
+            values[0][static_cast<unsigned char>(digit)] = 16 * value;
+            values[1][static_cast<unsigned char>(digit)] = value;
+        }
     }
     return values;
 }();
@@ -39,11 +44,11 @@ public:
     {
         if (index >= text.size() / 2)
             Refuse(text, index);
-        unsigned const high = static_cast<unsigned>(text[2 * index]);
-        unsigned const low = static_cast<unsigned>(text[2 * index + 1]);
-        if ((high | low) > 0xFF)
+        unsigned long long const high = static_cast<unsigned>(text[2 * index]);
+        unsigned long long const low = static_cast<unsigned>(text[2 * index + 1]);
+        if (high + low > 0xFF) // two digits are less, and anything that is no 8-bit character is more
             Refuse(text, index);
-        int const value = c_hexDigitValues[high] * 16 | c_hexDigitValues[low];
+        int const value = c_hexDigitValues[0][high] | c_hexDigitValues[1][low];
         if (value < 0)
             Refuse(text, index);
         return static_cast<unsigned char>(value);

@@ -62,7 +62,7 @@ TEST(HexConverter, ReadsWhatWStringHelperWrites)
     EXPECT_EQ(0xFF, HexConverter::ReadByte(L"0aFf", 1));
     for (unsigned long long const index : { 2ULL, 3ULL, 0x8000000000000000ULL, ~0ULL })
         EXPECT_THROW(HexConverter::ReadByte(L"0aFfx", index), std::out_of_range);
-    for (unsigned const unit : { 0x67U, 0x2FU, 0x3AU, 0x40U, 0x47U, 0x60U, 0x00U, 0xFFU, 0x130U, 0xFF10U })
+    for (unsigned const unit : { 0x67U, 0x2FU, 0x3AU, 0x40U, 0x47U, 0x60U, 0x00U, 0xFFU, 0x130U, 0xFF10U, 0xFFFFFFF0U })
     {
         EXPECT_THROW(HexConverter::ReadByte(MakeText({ '0', unit }), 0), Vek::ArgumentException) << unit;
         EXPECT_THROW(HexConverter::ReadByte(MakeText({ unit, '0' }), 0), Vek::ArgumentException) << unit;
