@@ -5,6 +5,12 @@
 namespace Vek::Framework::IXMLStreamer::Native
 {
 
+XMLElement::Attributes::Attributes(Internal::BlockPool* pool) : NameTable(pool)
+{
+}
+
+XMLElement::Attributes::~Attributes() = default;
+
 XMLElement::XMLElement(std::string const& name) : XMLElement(name, nullptr, nullptr)
 {
 }
@@ -16,10 +22,7 @@ XMLElement::XMLElement(std::string const& name, Internal::BlockPool* pool, XMLSt
 {
 }
 
-XMLElement::XMLElement(XMLElement const& other)
-    : m_name(other.m_name),
-      m_attributes(Copy(other.m_attributes)),
-      m_unspecifiedAttributes(other.m_unspecifiedAttributes)
+XMLElement::XMLElement(XMLElement const& other) : m_name(other.m_name), m_attributes(Copy(other.m_attributes))
 {
 }
 
@@ -37,7 +40,6 @@ void XMLElement::End::operator()(XMLElement* element) const noexcept
 XMLElement& XMLElement::operator=(XMLElement const& other)
 {
     m_attributes = Copy(other.m_attributes);
-    m_unspecifiedAttributes = other.m_unspecifiedAttributes;
     return *this;
 }
 
@@ -48,14 +50,19 @@ std::string const& XMLElement::GetElementName() const noexcept
 
 void XMLElement::RegisterAttribute(unsigned int version, std::string const& name, AttributeHandler handler)
 {
-    if (!m_attributes)
-        m_attributes = Internal::SharedObject<Attributes>::Make(m_pool, m_pool);
-    m_attributes->FindOrAdd(name).Set(version, std::move(handler), m_pool);
+    GetAttributes().FindOrAdd(name).Set(version, std::move(handler), m_pool);
 }
 
 void XMLElement::RegisterUnspecifiedAttributes(unsigned int version, AttributeHandler handler)
 {
-    m_unspecifiedAttributes.Set(version, std::move(handler), m_pool);
+    GetAttributes().unspecified.Set(version, std::move(handler), m_pool);
+}
+
+XMLElement::Attributes& XMLElement::GetAttributes()
+{
+    if (!m_attributes)
+        m_attributes = Internal::SharedObject<Attributes>::Make(m_pool, m_pool);
+    return *m_attributes;
 }
 
 // On the heap: what assignments make again and again must not fill a pool.
@@ -65,6 +72,7 @@ Internal::SharedObject<XMLElement::Attributes> XMLElement::Copy(Internal::Shared
         return {};
     auto copy = Internal::SharedObject<Attributes>::Make(nullptr, nullptr);
     copy->AddAll(*attributes);
+    copy->unspecified = attributes->unspecified;
     return copy;
 }
 

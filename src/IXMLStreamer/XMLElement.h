@@ -56,7 +56,13 @@ private:
     friend class Internal::BlockPool;
 
     using AttributeHandlers = Internal::VersionedFunctions<AttributeHandler>;
-    using Attributes = Internal::NameTable<AttributeHandlers, std::string>;
+    struct VEK_LOCAL Attributes : Internal::NameTable<AttributeHandlers, std::string>
+    {
+        explicit Attributes(Internal::BlockPool* pool);
+        ~Attributes(); // out of line: it seldom happens where holders are counted
+
+        AttributeHandlers unspecified;
+    };
 
     struct VEK_LOCAL End
     {
@@ -66,6 +72,7 @@ private:
     /// Made in `pool`, which lives as long as the root, unless that is null.
     VEK_LOCAL XMLElement(std::string const& name, Internal::BlockPool* pool, XMLStructureElement* root);
 
+    VEK_LOCAL Attributes& GetAttributes();
     static VEK_LOCAL Internal::SharedObject<Attributes> Copy(Internal::SharedObject<Attributes> const& attributes);
     VEK_LOCAL Attributes::Entry const* FindAttribute(std::string_view name) const;
 
@@ -74,7 +81,6 @@ private:
     XMLStructureElement* m_root = nullptr;   // null for a copy
     std::unique_ptr<XMLElement, End> m_next; // below the same root, so that the end of a deep one takes no stack
     Internal::SharedObject<Attributes> m_attributes; // none before the first; an assignment replaces them all
-    AttributeHandlers m_unspecifiedAttributes;
 };
 
 } // namespace Vek::Framework::IXMLStreamer::Native

@@ -83,13 +83,16 @@ TEST(XMLElement, CopyTakesTheHandlersAndAnAssignedElementKeepsItsName)
     // The assignment ends this handler, but not before it returns.
     first.RegisterAttribute(0, "a",
                             [&](auto&, auto& value) { return first = second, trace += "a=" + value + ";", true; });
+    first.RegisterUnspecifiedAttributes(0, [&](auto& name, auto& value)
+                                        { return trace += name + "~" + value + ";", true; });
     XMLContentElement const copy(first);
     EXPECT_EQ("first", copy.GetElementName());
     second = copy;
 
-    std::istringstream document("<?xml version='1.0'?><root><first a='1'>x</first><second a='2'>y</second></root>");
+    std::istringstream document(
+        "<?xml version='1.0'?><root><first a='1' b='3'>x</first><second a='2'>y</second></root>");
     EXPECT_TRUE(reader.ProcessSource(document));
-    EXPECT_EQ("a=1;first=x;a=2;second=y;", trace);
+    EXPECT_EQ("a=1;b~3;first=x;a=2;second=y;", trace);
 }
 
 TEST(XMLElement, EveryRegisteredNameIsFoundHoweverManyThereAre)

@@ -62,6 +62,28 @@ TEST(XMLAllocation, AFailedRunOrRegistrationLeavesAReaderThatReads)
     }
 }
 
+TEST(XMLAllocation, WhatIsRegisteredAnewTakesThePlaceOfWhatItReplaces)
+{
+    XMLStreamer reader;
+    XMLStructureElement& root = reader.CreateRootStructureElement("a");
+    XMLContentElement& element = root.CreateContentElement("b");
+    std::size_t registered = 0;
+    std::size_t settled = 0;
+    for (int i = 0; i < 2000; ++i)
+    {
+        if (i == 2)
+            settled = bytesInUse;
+        root.SetOnBegin(0, [&](auto&) { return ++registered > 0; });
+        element.SetOnDo(0, [&](auto&, auto&) { return ++registered > 0; });
+        element.RegisterAttribute(0, "c", [&](auto&, auto&) { return ++registered > 0; });
+        element.RegisterUnspecifiedAttributes(0, [&](auto&, auto&) { return ++registered > 0; });
+        element = XMLContentElement(element);
+        EXPECT_TRUE(reader.ProcessSource("<?xml version='1.0'?><a><b c='' d=''></b></a>"));
+    }
+    EXPECT_EQ(4U * 2000, registered);
+    EXPECT_EQ(settled, bytesInUse);
+}
+
 TEST(XMLAllocation, WhatAGiantDocumentNeededIsGivenBack)
 {
     std::string const giant(5'000'000, 'x');

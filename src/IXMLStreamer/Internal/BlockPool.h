@@ -8,8 +8,8 @@ namespace Vek::Framework::IXMLStreamer::Native::Internal
 {
 
 /// Memory for the many small parts of a description, which are made one after the other and end together: they are cut
-/// from a few large pieces, the first of which lies in the pool itself. A part that ends by End leaves room for the next
-/// one of its size; the memory of the others ends with the pool.
+/// from a few large pieces, the first of which lies in the pool itself. A part that ends by End leaves room for the
+/// next one of its size; the memory of the others ends with the pool.
 ///
 /// Threads: a pool and all that is made in it belong to one thread at a time.
 class BlockPool

@@ -16,9 +16,9 @@ unsigned int FindLetters(char const* bytes)
     constexpr char c_caseBit = 0x20;
     __m128i const block = _mm_loadu_si128(reinterpret_cast<__m128i const*>(bytes));
     __m128i const lower = _mm_or_si128(block, _mm_set1_epi8(c_caseBit));
-    __m128i const isAbove = _mm_cmpgt_epi8(lower, _mm_set1_epi8('a' - 1));
-    __m128i const isBelow = _mm_cmplt_epi8(lower, _mm_set1_epi8('z' + 1));
-    return static_cast<unsigned int>(_mm_movemask_epi8(_mm_and_si128(isAbove, isBelow)));
+    __m128i const place = _mm_sub_epi8(lower, _mm_set1_epi8('a')); // in the alphabet
+    __m128i const isLetter = _mm_cmpeq_epi8(_mm_min_epu8(place, _mm_set1_epi8('z' - 'a')), place);
+    return static_cast<unsigned int>(_mm_movemask_epi8(isLetter));
 }
 
 } // namespace

@@ -72,14 +72,19 @@ bool XMLStreamer::Reader::Call(Internal::VersionedFunctions<F> const& handlers, 
     return !handler || (*handler)(arguments...);
 }
 
+// Of an attribute that is not described, where the innermost element has one for those; null otherwise.
+inline XMLElement::AttributeHandlers const* XMLStreamer::Reader::GetUnspecifiedHandlers() const
+{
+    XMLElement const* const element = GetOpenElement();
+    return element != nullptr && element->m_attributes ? &element->m_attributes->unspecified : nullptr;
+}
+
 inline bool XMLStreamer::Reader::CallAttributeHandler(Attribute const* attribute, std::string const& name) const
 {
-    if (XMLElement const* const element = GetOpenElement(); element != nullptr)
-    {
-        auto const& handlers = attribute != nullptr ? attribute->value : element->m_unspecifiedAttributes;
-        if (auto const handler = handlers.Find(m_version); handler)
+    auto const* const handlers = attribute != nullptr ? &attribute->value : GetUnspecifiedHandlers();
+    if (handlers != nullptr)
+        if (auto const handler = handlers->Find(m_version); handler)
             return (*handler)(name, m_value);
-    }
     return Call(m_onUnknownAttribute, name, m_value);
 }
 

@@ -139,6 +139,7 @@ private:
 
     template <class F, class... Arguments>
     bool Call(Internal::VersionedFunctions<F> const& handlers, Arguments const&... arguments) const;
+    XMLElement::AttributeHandlers const* GetUnspecifiedHandlers() const;
     bool CallAttributeHandler(Attribute const* attribute, std::string const& name) const;
     bool CallBeginHandler() const;
     bool CallContentHandler(std::string const& content) const;
