@@ -125,6 +125,27 @@ bool SimpleParser::Record(Symbol& symbol)
     return true;
 }
 
+bool SimpleParser::BuildNextSymbol(Symbol& symbol)
+{
+    while (m_source.GetRemainingBytes() != 0)
+    {
+        CalcPosition();
+        if (IsComment())
+        {
+            if (m_symbolInProgress)
+                return true;
+            SkipComment();
+        }
+        else if (ScanToken(symbol) || ScanText(symbol))
+            return true;
+        else if (!ScanSkipped())
+            ScanIdentifier(symbol);
+        else if (m_symbolInProgress)
+            return true;
+    }
+    return m_symbolInProgress;
+}
+
 bool SimpleParser::BuildPassThroughSymbol(Symbol& symbol)
 {
     while (m_source.GetRemainingBytes() != 0)
@@ -138,6 +159,45 @@ bool SimpleParser::BuildPassThroughSymbol(Symbol& symbol)
         ScanIdentifier(symbol);
     }
     return m_symbolInProgress;
+}
+
+// Counts what moves the place by more than its own column; it runs again for a character that is looked at again.
+void SimpleParser::CalcPosition()
+{
+    if ((GetStart() & (Blank | Tab)) == 0)
+        return;
+    switch (*m_source.GetPosition())
+    {
+    case '\t':
+        m_source.AddColumns(m_tabSize);
+        break;
+    case '\n':
+        m_source.AddLines(1);
+        m_source.SetColumn(1);
+        break;
+    case '\r':
+        m_source.SetColumn(1);
+        break;
+    default:
+        m_source.AddColumns(1);
+    }
+}
+
+bool SimpleParser::ScanToken(Symbol& symbol)
+{
+    if ((GetStart() & TokenStart) == 0)
+        return false;
+    Internal::Token const* const token = m_tokens.FindToken(m_source.GetPosition(), m_source.GetRemainingBytes());
+    if (token == nullptr || !token->IsScannable())
+        return false;
+    if (m_symbolInProgress)
+        return true;
+
+    std::size_t const size = token->GetText().size();
+    symbol.Begin(Symbol::Token, token->GetId(), m_source.GetLine(), m_source.GetColumn());
+    symbol.m_text.assign(m_source.GetPosition(), size);
+    m_source.MoveTo(m_source.GetPosition() + size);
+    return true;
 }
 
 } // namespace Vek::Framework::IParser::Native

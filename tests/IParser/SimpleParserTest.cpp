@@ -65,6 +65,28 @@ TEST(SimpleParser, RefusesTokensAndChangesNothing)
     EXPECT_EQ("#1<<>1:1 #1<<>1:2 i<=>1:3 #1<<>1:4 i<\344>1:5 ", Trace(parser));
 }
 
+// They are passed by the rules under which it ended, whatever is changed before the next symbol.
+TEST(SimpleParser, BlanksBehindAnIdentifierGoWithIt)
+{
+    Rows<char const*, void (*)(SimpleParser&), char const*, char const*> const rows = {
+        { "a \tb", [](SimpleParser& p) { p.SetTabSize(8); }, "i<\tb>1:14 ", "tab size" },
+        { "a  b", [](SimpleParser& p) { p.AddToken(7, " ", "", true); }, "i<b>1:4 ", "a blank token" },
+        { "a \" b", [](SimpleParser& p) { p.SetTextToken(' '); }, "i<\">1:3 cut<b>1:8 ", "a blank delimiter" },
+        { "a   b\nc", [](SimpleParser& p) { p.SetCommentToken(" "); }, "i<b>1:5 i<c>2:1 ", "a blank comment" },
+        { "a   b", [](SimpleParser& p) { p = SimpleParser(p), p.InvokePassThrough(); }, "raw<b>1:5 ", "raw text" },
+        { "\"a\"   b", [](SimpleParser& p) { p.InvokePassThrough(); }, "raw<   b>1:5 ", "not behind a text" },
+    };
+    for (auto const& [source, change, expected, why] : rows)
+    {
+        SCOPED_TRACE(why);
+        SimpleParser parser = MakeParser({}, source);
+        Symbol symbol;
+        parser.GetNextSymbol(symbol);
+        change(parser);
+        EXPECT_EQ(expected, Trace(parser));
+    }
+}
+
 TEST(SimpleParser, ReusedSymbolsKeepNothingOfTheOneBefore)
 {
     SimpleParser parser = MakeParser({ { { 5, "<", true } } }, "\"a < 1");
