@@ -65,7 +65,7 @@ XMLStructureElement& XMLStreamer::Reader::CreateRoot(std::string const& name)
         m_openElements.KeepNames(); // of a run that goes on or has failed; the path outlives the descriptions
     if (m_isRunning && m_description != nullptr)
         m_replacedDescriptions.push_back(std::move(m_description));
-    m_description = std::move(description);
+    m_description.swap(description); // whose end, and that of its handlers, comes last
     m_root = &m_description->root;
     return *m_root;
 }
