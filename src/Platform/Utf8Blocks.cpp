@@ -111,18 +111,22 @@ std::size_t NarrowWithSse2(wchar_t const* units, std::size_t size, char* target)
     return taken;
 }
 
+VEK_NEEDS("avx2") bool NarrowBlockByAvx2(wchar_t const* units, char* target) noexcept
+{
+    NarrowedUnits const block = NarrowByAvx2(units);
+    _mm256_storeu_si256(reinterpret_cast<__m256i*>(target), block.bytes);
+    return _mm256_movemask_epi8(block.others) == 0;
+}
+
 VEK_NEEDS("avx2")
 std::size_t NarrowWithAvx2(wchar_t const* units, std::size_t size, char* target) noexcept
 {
     constexpr std::size_t c_needed = 2 * c_unitsInBlock;
-    std::size_t taken = 0;
-    for (; size - taken >= c_needed; taken += c_needed)
-    {
-        NarrowedUnits const block = NarrowByAvx2(units + taken);
-        if (_mm256_movemask_epi8(block.others) != 0)
-            break;
-        _mm256_storeu_si256(reinterpret_cast<__m256i*>(target + taken), block.bytes);
-    }
+    if (size < c_needed || !NarrowBlockByAvx2(units, target))
+        return 0;
+    std::size_t taken = CountUnitsToBoundary(units);
+    while (size - taken >= c_needed && NarrowBlockByAvx2(units + taken, target + taken))
+        taken += c_needed;
     return taken;
 }
 

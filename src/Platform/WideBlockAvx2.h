@@ -10,9 +10,8 @@
 namespace Vek::Platform
 {
 
-/// The units before the next address from which on no store of a register touches two lines of the cache. Who has
-/// stored a block goes on behind so many of its units, and stores the others again: that saves a quarter of a long
-/// text's time.
+/// The units before the next address from which on no register touches two lines of the cache. Who has done a block
+/// goes on behind so many of its units, and does the others again: that saves a quarter of a long text's time.
 inline std::size_t CountUnitsToBoundary(wchar_t const* units) noexcept
 {
     return (0 - reinterpret_cast<std::uintptr_t>(units)) % sizeof(__m256i) / sizeof(wchar_t);
