@@ -17,15 +17,15 @@ ParserResult StateProcessor::Process()
 {
     FoundToken found{};
     while (ConsumeInMemory(found) && FindToken(found))
-        if (!ProcessToken(found))
+        if (!ProcessToken(found, m_isTextAside))
             return GetResult();
     if (m_isEnded)
         return GetResult();
 
     char const* const end = m_source.GetEnd();
-    if (ConsumeText(end))
+    if (ConsumeText(end, m_isTextAside))
     {
-        MovePositionInStream(end);
+        MovePositionInStream(end, m_isTextAside);
         if (State const& state = *m_state; state.HasEndOfSourceConsumer())
             InvokeConsumer([&state](State::ResultParams& params) { state.GetEndOfSourceConsumer()(params); });
     }
@@ -47,7 +47,7 @@ bool StateProcessor::ConsumeInMemory(FoundToken& found)
             found.start = next.start;
             return true;
         }
-        if (!ProcessToken(next))
+        if (!ProcessToken(next, false))
             return false;
     }
 }
@@ -188,14 +188,14 @@ bool StateProcessor::ConsumeInBulk()
     return IsGoingOn(params);
 }
 
-VEK_INLINE bool StateProcessor::ProcessToken(FoundToken const& found)
+VEK_INLINE bool StateProcessor::ProcessToken(FoundToken found, bool isTextAside)
 {
-    if (m_textStart != found.start || m_isTextAside)
+    if (m_textStart != found.start || isTextAside)
     {
         State const* const state = m_state;
-        if (!ConsumeText(found.start))
+        if (!ConsumeText(found.start, isTextAside))
             return false;
-        MovePositionInStream(found.start);
+        MovePositionInStream(found.start, isTextAside);
         if (m_state != state)
             return true; // the new state recognises the token anew
     }
@@ -214,12 +214,12 @@ VEK_INLINE bool StateProcessor::ConsumeToken(StateToken const& token)
     return true;
 }
 
-VEK_INLINE bool StateProcessor::ConsumeText(char const* end)
+VEK_INLINE bool StateProcessor::ConsumeText(char const* end, bool isTextAside)
 {
     State const& state = *m_state;
-    if ((m_textStart == end && !m_isTextAside) || !state.m_takesText)
+    if ((m_textStart == end && !isTextAside) || !state.m_takesText)
         return true;
-    if (m_isTextAside || !state.m_takesViewsOnly)
+    if (isTextAside || !state.m_takesViewsOnly)
         return ConsumeNumberOrText(end);
     std::string_view const text(m_textStart, static_cast<std::size_t>(end - m_textStart));
     return InvokeConsumer([&](State::ResultParams& params) { (*state.m_textViewConsumer)(text, params); });
@@ -291,9 +291,9 @@ VEK_INLINE void StateProcessor::SwitchState(unsigned int id)
 
 // Position. Bytes are counted where they leave the buffer and when the result is asked for, not one by one.
 
-void StateProcessor::MovePositionInStream(char const* end)
+inline void StateProcessor::MovePositionInStream(char const* end, bool isTextAside)
 {
-    if (m_isTextAside)
+    if (isTextAside)
     {
         m_position = m_asideEnd;
         m_isTextAside = false;

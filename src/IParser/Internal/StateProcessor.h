@@ -51,9 +51,10 @@ private:
     void SetPendingTextAside(char const* end);
 
     bool ConsumeInBulk();
-    bool ProcessToken(FoundToken const& found);
+    // `isTextAside` is m_isTextAside, which the short way knows without a look.
+    bool ProcessToken(FoundToken found, bool isTextAside);
     bool ConsumeToken(Internal::StateToken const& token);
-    bool ConsumeText(char const* end);
+    bool ConsumeText(char const* end, bool isTextAside);
     bool ConsumeNumberOrText(char const* end);
     std::string const& GetPendingText(char const* end);
     static void ForgetReplacedConsumers(State& state);
@@ -63,7 +64,7 @@ private:
     bool IsGoingOn(State::ResultParams const& params);
     void SwitchState(unsigned int id);
 
-    void MovePositionInStream(char const* end);
+    void MovePositionInStream(char const* end, bool isTextAside);
     unsigned long long GetOffset() const;
     ParserResult GetResult();
 
