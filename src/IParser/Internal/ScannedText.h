@@ -80,8 +80,7 @@ private:
 
     std::string m_text;
     char const* m_position = nullptr;
-    std::uintptr_t m_columnZero =
-        0; // the address of column 0, which may lie outside the text: so columns need no count
+    std::uintptr_t m_columnZero = 0; // of column 0, which may lie outside the text: so columns need no count
     unsigned long long m_line = 1;
     std::size_t m_size = 0; // without the padding
     // The last one that was told. Not beside the position: written as a pair, both would come later.
