@@ -2,7 +2,6 @@
 
 #include <IXMLStreamer/Internal/Escaping.h>
 #include <IXMLStreamer/Internal/NumberText.h>
-#include <IXMLStreamer/Internal/UnformattedWrite.h>
 
 #include <algorithm>
 #include <cstring>
@@ -348,7 +347,7 @@ void XMLWriter::AppendAttribute(std::string const& name, std::string const& valu
 void XMLWriter::SendDraft()
 {
     if (!m_draft.text.IsEmpty())
-        Internal::WriteUnformatted(*m_stream, { m_draft.text.GetData(), m_draft.text.GetSize() });
+        m_stream->write(m_draft.text.GetData(), static_cast<std::streamsize>(m_draft.text.GetSize()));
 }
 
 } // namespace Vek::Framework::IXMLStreamer::Native

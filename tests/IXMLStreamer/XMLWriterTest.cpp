@@ -18,64 +18,6 @@ auto const Content = [](XMLWriter& writer)
 auto const Comment = [](XMLWriter& writer) { return writer.WriteComment("c"); };
 auto const Finish = [](XMLWriter& writer) { return writer.FinishWriting(); };
 
-// Notes what it is asked for.
-class NotingBuffer : public std::streambuf
-{
-public:
-    enum Behaviour
-    {
-        Takes,
-        TakesHalf,
-        Throws
-    };
-    explicit NotingBuffer(Behaviour behaviour) : m_behaviour(behaviour) {}
-
-    std::string notes;
-
-protected:
-    std::streamsize xsputn(char const* text, std::streamsize size) override
-    {
-        notes.append(text, static_cast<std::size_t>(size));
-        if (m_behaviour == Throws)
-            throw std::length_error("full");
-        return m_behaviour == Takes ? size : size / 2;
-    }
-    int sync() override { return notes += "sync;", 0; }
-
-private:
-    Behaviour m_behaviour;
-};
-
-// What becomes of a stream, the one it is tied to and the caller.
-template <class Write>
-std::string Observe(NotingBuffer::Behaviour behaviour, unsigned int setting, Write const& write)
-{
-    NotingBuffer buffer(behaviour);
-    NotingBuffer tiedBuffer(NotingBuffer::Takes);
-    std::ostream stream(&buffer);
-    std::ostream tied(&tiedBuffer);
-    if ((setting & 1) != 0)
-        stream.tie(&tied);
-    if ((setting & 2) != 0)
-        stream << std::unitbuf;
-    if ((setting & 4) != 0)
-        stream.exceptions(std::ios::badbit);
-    std::string thrown = "nothing";
-    try
-    {
-        write(stream);
-    }
-    catch (std::ios::failure const&)
-    {
-        thrown = "failure";
-    }
-    catch (std::length_error const&)
-    {
-        thrown = "what the buffer throws";
-    }
-    return buffer.notes + "|" + tiedBuffer.notes + "|" + std::to_string(stream.rdstate()) + "|" + thrown;
-}
-
 } // namespace
 
 TEST(XMLWriter, OperationsInEveryState)
@@ -250,23 +192,6 @@ TEST(XMLWriter, FailedStreamIsTheStreamsToReport)
     EXPECT_THROW(Begin(writer), std::ios::failure);
     throwing.exceptions(std::ios::goodbit);
     EXPECT_TRUE(End(writer) && Finish(writer)); // the element counts as begun
-}
-
-TEST(XMLWriter, AnOperationIsOneUnformattedWrite)
-{
-    for (auto const behaviour : { NotingBuffer::Takes, NotingBuffer::TakesHalf, NotingBuffer::Throws })
-        for (unsigned int setting = 0; setting < 8; ++setting)
-        {
-            auto const comment = [](std::ostream& stream)
-            {
-                XMLWriter writer;
-                EXPECT_TRUE(writer.StartWriting(stream, false) && writer.WriteComment("c"));
-                EXPECT_TRUE(writer.WriteComment("d"));
-            };
-            auto const plain = [](std::ostream& stream) { stream.write("<!--c-->\n", 9).write("<!--d-->\n", 9); };
-            EXPECT_EQ(Observe(behaviour, setting, plain), Observe(behaviour, setting, comment))
-                << behaviour << ", " << setting;
-        }
 }
 
 TEST(XMLWriter, EveryDepthIsIndentedByItsTabs)

@@ -7,13 +7,8 @@ namespace Vek::Platform
 
 bool TryReadLocalClock(ClockFields& fields) noexcept
 {
-    // GetLocalTime would answer the last tick of the system's timer, and it takes longer.
-    FILETIME universal;
-    GetSystemTimePreciseAsFileTime(&universal);
-    FILETIME local;
     SYSTEMTIME now;
-    if (FileTimeToLocalFileTime(&universal, &local) == 0 || FileTimeToSystemTime(&local, &now) == 0)
-        return false;
+    GetLocalTime(&now);
     fields = { now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond, now.wMilliseconds };
     return true;
 }
