@@ -24,7 +24,7 @@ class StateTable;
 /// Place:    position, line and column move over a text or a token once its consumer agreed, so that a failed run
 ///           names the first character of what its consumer refused.
 /// Cost:     linear in the source for tokens of bounded length. Memory: the longest text between two tokens and, when
-///           reading by block, up to 512 KiB.
+///           reading by block, up to 1 MiB.
 /// Errors:   a syntax error ends the run with InvalidSyntax. Exceptions of consumers pass through; GetParserResult
 ///           stays as it was, and the next run starts clean.
 /// Reentry:  a consumer may start another run of the same parser and register states.
@@ -47,7 +47,7 @@ public:
     State* RegisterState(unsigned int id, WhiteSpaceHandling whiteSpaceHandling);
 
     /// Runs over the stream to its end, or until a consumer ends the run; true when the result's code is Ok.
-    /// By block, the stream is read up to 512 KiB at a time; otherwise never further than recognition needs, so that a
+    /// By block, the stream is read up to 1 MiB at a time; otherwise never further than recognition needs, so that a
     /// host can go on reading behind the token that stopped the run. The callbacks are the same. A stream that is not
     /// good counts as ended. Throws NullPointerException when no state is registered, and std::out_of_range when a
     /// consumer names a state that is not.

@@ -41,7 +41,7 @@ namespace Vek::Framework::IXMLStreamer::Native
 /// Errors:   a bad document is never an exception: ProcessSource answers false, GetError says why, and the first error
 ///           stays. An exception of a handler passes through ProcessSource; the next run starts clean. A stream that
 ///           fails looks like one that ends too early: ask stream.bad().
-/// Cost:     linear in the document; up to 512 KiB to read a stream into, the longest value, the names of the open
+/// Cost:     linear in the document; up to 1 MiB to read a stream into, the longest value, the names of the open
 /// elements.
 ///           What one document made the reader allocate beyond that is given back when the run ends. Nesting is not
 ///           limited; a host that wants a limit counts in its begin and end handlers and answers false.

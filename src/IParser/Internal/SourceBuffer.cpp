@@ -14,7 +14,7 @@ namespace
 // next one larger.
 constexpr std::size_t c_firstBlockSize = 0x4000;
 constexpr std::size_t c_growth = 8;
-constexpr std::size_t c_lastBlockSize = 0x80000;
+constexpr std::size_t c_lastBlockSize = 0x100000;
 constexpr std::size_t c_carrySize = 0x1000; // beside the block: the token that straddles two blocks
 
 } // namespace

@@ -15,7 +15,7 @@ public:
     enum class Reading
     {
         ByCharacter, ///< never more of the stream than recognition needs
-        ByBlock      ///< 16 KiB at first, 512 KiB a read in the end
+        ByBlock      ///< 16 KiB at first, 1 MiB a read in the end
     };
 
     /// All of `text`, which must outlive the buffer; nothing is copied.
