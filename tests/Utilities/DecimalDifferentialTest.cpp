@@ -12,18 +12,26 @@ using Vek::Framework::Utilities::RoundMode;
 
 using Operation = std::function<Decimal(Decimal const&, Decimal const&)>;
 
-void ExpectSame(Operation const& ours, Operation const& plain)
+/// In every bit, unless an operand is written as nobody would: the result may keep that.
+bool IsSame(Decimal const& result, Decimal const& expected, Decimal const& a, Decimal const& b)
+{
+    auto const isUnusual = [](Decimal const& value) { return !Plain::HasSameBits(value, Plain::Rewrite(value)); };
+    return Plain::HasSameBits(result, expected) ||
+           ((isUnusual(a) || isUnusual(b)) && Plain::HasSameBits(Plain::Rewrite(result), expected));
+}
+
+void ExpectSame(Operation const& ours, Operation const& plain, unsigned cases = GetDifferentialCases())
 {
     static unsigned s_seed = 0;
     RandomDecimal random(++s_seed);
-    for (unsigned i = 0; i < GetDifferentialCases(); ++i)
+    for (unsigned i = 0; i < cases; ++i)
     {
         Decimal const a = random.Next();
         Decimal const b = random.Next();
         Decimal const result = ours(a, b);
         Decimal const expected = plain(a, b);
-        ASSERT_TRUE(Plain::HasSameBits(result, expected)) << Plain::Print(a) << " and " << Plain::Print(b) << " give "
-                                                          << Plain::Print(result) << ", not " << Plain::Print(expected);
+        ASSERT_TRUE(IsSame(result, expected, a, b)) << Plain::Print(a) << " and " << Plain::Print(b) << " give "
+                                                    << Plain::Print(result) << ", not " << Plain::Print(expected);
     }
 }
 
@@ -46,6 +54,7 @@ TEST(DecimalDifferential, Arithmetic)
     ExpectSame([](auto& a, auto& b) { return a.Max(b); }, Plainly(decNumberMax));
     ExpectSame([](auto& a, auto& b) { return a.Min(b); }, Plainly(decNumberMin));
     ExpectSame([](auto& a, auto&) { return -a; }, [](auto& a, auto&) { return Plain::Apply(decNumberMinus, a); });
+    ExpectSame([](auto& a, auto& b) { return a.Pow(b); }, Plainly(decNumberPower), GetDifferentialCases() / 320);
 }
 
 TEST(DecimalDifferential, Compare)
@@ -78,9 +87,10 @@ TEST(DecimalDifferential, Round)
     for (unsigned i = 0; i < GetDifferentialCases(); ++i)
     {
         Decimal const a = random.Next();
-        int const kind = static_cast<int>(random.Below(10));
+        unsigned const kind = random.Below(10);
         int const digits = kind == 0   ? static_cast<int>(random.Below(13000)) - 6300
                            : kind == 1 ? ends[random.Below(6)]
+                           : kind <= 3 ? 5 - Plain::Decode(a).exponent - static_cast<int>(random.Below(40))
                                        : static_cast<int>(random.Below(45)) - 10;
         Mode const& mode = modes[random.Below(3)];
         bool const keepsZeros = random.Below(2) == 0;
@@ -88,8 +98,8 @@ TEST(DecimalDifferential, Round)
         if (!keepsZeros)
             expected = Plain::Apply(decNumberReduce, expected);
         Decimal const result = a.Round(digits, mode.ours, keepsZeros);
-        ASSERT_TRUE(Plain::HasSameBits(result, expected)) << Plain::Print(a) << " to " << digits << " digits gives "
-                                                          << Plain::Print(result) << ", not " << Plain::Print(expected);
+        ASSERT_TRUE(IsSame(result, expected, a, a)) << Plain::Print(a) << " to " << digits << " digits gives "
+                                                    << Plain::Print(result) << ", not " << Plain::Print(expected);
     }
 }
 

@@ -48,12 +48,12 @@ inline std::string Print(Decimal const& value)
     return decimal128ToString(&bytes, text);
 }
 
-inline Decimal Scan(std::string const& text, rounding mode = DEC_ROUND_HALF_UP)
+inline Decimal Scan(std::string const& text)
 {
-    decContext context = MakeContext(mode);
+    decContext context = MakeContext();
     decNumber number;
     decNumberFromString(&number, text.c_str(), &context);
-    return Encode(number, mode);
+    return Encode(number);
 }
 
 inline bool HasSameBits(Decimal const& a, Decimal const& b)
@@ -61,26 +61,32 @@ inline bool HasSameBits(Decimal const& a, Decimal const& b)
     return std::memcmp(&a, &b, sizeof(Decimal)) == 0;
 }
 
+/// The same value as decNumber writes it: not every pattern of bits is written by anybody.
+inline Decimal Rewrite(Decimal const& value)
+{
+    return Encode(Decode(value));
+}
+
 using Unary = decNumber* (*)(decNumber*, decNumber const*, decContext*);
 using Binary = decNumber* (*)(decNumber*, decNumber const*, decNumber const*, decContext*);
 
-inline Decimal Apply(Unary operation, Decimal const& a, rounding mode = DEC_ROUND_HALF_UP)
+inline Decimal Apply(Unary operation, Decimal const& a)
 {
-    decContext context = MakeContext(mode);
+    decContext context = MakeContext();
     decNumber const operand = Decode(a);
     decNumber result;
     operation(&result, &operand, &context);
-    return Encode(result, mode);
+    return Encode(result);
 }
 
-inline Decimal Apply(Binary operation, Decimal const& a, Decimal const& b, rounding mode = DEC_ROUND_HALF_UP)
+inline Decimal Apply(Binary operation, Decimal const& a, Decimal const& b)
 {
-    decContext context = MakeContext(mode);
+    decContext context = MakeContext();
     decNumber const left = Decode(a);
     decNumber const right = Decode(b);
     decNumber result;
     operation(&result, &left, &right, &context);
-    return Encode(result, mode);
+    return Encode(result);
 }
 
 inline int Compare(Decimal const& a, Decimal const& b)

@@ -7,13 +7,14 @@
 #include "PlainDecNumber.h"
 
 /// Operands of all sizes and places: amounts, full coefficients, runs of nines and zeros at the lengths where the quick
-/// ways end, exponents equal, near, far and at both ends, signed zeros, Infinity and NaN. The same for the same seed.
+/// ways end, exponents equal, near, far and at both ends, signed zeros, Infinity and NaN, and any 128 bits, most of
+/// which hold declets that no number is written with. The same for the same seed.
 class RandomDecimal
 {
 public:
     explicit RandomDecimal(unsigned seed) : m_engine(seed) {}
 
-    Vek::Framework::Utilities::Decimal Next() { return Plain::Scan(NextText()); }
+    Vek::Framework::Utilities::Decimal Next() { return Below(16) == 0 ? NextPattern() : Plain::Scan(NextText()); }
 
     /// In the notation of decNumber.
     std::string NextText()
@@ -27,10 +28,17 @@ public:
         return sign + NextDigits(NextLength()) + "E" + std::to_string(NextExponent());
     }
 
-    std::uint64_t NextWord() { return m_engine(); }
     unsigned Below(unsigned limit) { return static_cast<unsigned>(m_engine() % limit); }
 
 private:
+    Vek::Framework::Utilities::Decimal NextPattern()
+    {
+        std::uint64_t words[] = { m_engine(), m_engine() };
+        if (Below(3) == 0) // Infinity or NaN
+            words[1] |= std::uint64_t{ 0x78 } << 56U;
+        return std::bit_cast<Vek::Framework::Utilities::Decimal>(words);
+    }
+
     unsigned NextLength()
     {
         static constexpr unsigned edges[] = { 1, 14, 15, 16, 17, 18, 19, 20, 33, 34, 34, 34 };
