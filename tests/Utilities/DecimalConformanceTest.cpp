@@ -4,7 +4,7 @@
 // decNumber gives the stated result under the settings of Decimal, too: that is settled without looking at what Decimal
 // answers. What it must answer is the result that the case states, in every bit.
 
-#include <Utilities/Decimal.h>
+#include <Utilities/DecimalClassification.h>
 
 #include <cctype>
 #include <filesystem>
@@ -91,10 +91,7 @@ struct Results
 /// CompareTo answers 0 for what is not ordered; here that is the NaN again.
 Decimal CompareAsDecimal(Decimal const& a, Decimal const& b)
 {
-    int const result = a.CompareTo(b);
-    Decimal const ordered = Plain::Apply(decNumberCompare, a, b);
-    decNumber const number = Plain::Decode(ordered);
-    return result == 0 && decNumberIsNaN(&number) ? ordered : Decimal(result);
+    return IsNaN(a) || IsNaN(b) ? Plain::Apply(decNumberCompare, a, b) : Decimal(a.CompareTo(b));
 }
 
 std::optional<Results> Calculate(std::string const& operation, Decimal const& a, Decimal const& b)

@@ -74,14 +74,9 @@ TEST(DecimalDifferential, Compare)
 
 TEST(DecimalDifferential, Round)
 {
-    struct Mode
-    {
-        RoundMode ours;
-        rounding plain;
-    };
-    static constexpr Mode modes[] = { { RoundMode::AwayFromZero, DEC_ROUND_UP },
-                                      { RoundMode::HalfAwayFromZero, DEC_ROUND_HALF_UP },
-                                      { RoundMode::TowardZero, DEC_ROUND_DOWN } };
+    static constexpr std::pair<RoundMode, rounding> modes[] = { { RoundMode::AwayFromZero, DEC_ROUND_UP },
+                                                                { RoundMode::HalfAwayFromZero, DEC_ROUND_HALF_UP },
+                                                                { RoundMode::TowardZero, DEC_ROUND_DOWN } };
     static constexpr int ends[] = { -6145, -6144, -6112, -6111, 6176, 6177 };
     RandomDecimal random(10);
     for (unsigned i = 0; i < GetDifferentialCases(); ++i)
@@ -92,12 +87,12 @@ TEST(DecimalDifferential, Round)
                            : kind == 1 ? ends[random.Below(6)]
                            : kind <= 3 ? 5 - Plain::Decode(a).exponent - static_cast<int>(random.Below(40))
                                        : static_cast<int>(random.Below(45)) - 10;
-        Mode const& mode = modes[random.Below(3)];
+        auto const& [ours, mode] = modes[random.Below(3)];
         bool const keepsZeros = random.Below(2) == 0;
-        Decimal expected = Plain::Encode(Plain::Rescale(Plain::Decode(a), -digits, mode.plain), mode.plain);
+        Decimal expected = Plain::Encode(Plain::Rescale(Plain::Decode(a), -digits, mode), mode);
         if (!keepsZeros)
             expected = Plain::Apply(decNumberReduce, expected);
-        Decimal const result = a.Round(digits, mode.ours, keepsZeros);
+        Decimal const result = a.Round(digits, ours, keepsZeros);
         ASSERT_TRUE(IsSame(result, expected, a, a)) << Plain::Print(a) << " to " << digits << " digits gives "
                                                     << Plain::Print(result) << ", not " << Plain::Print(expected);
     }

@@ -67,35 +67,21 @@ inline Decimal Rewrite(Decimal const& value)
     return Encode(Decode(value));
 }
 
-using Unary = decNumber* (*)(decNumber*, decNumber const*, decContext*);
 using Binary = decNumber* (*)(decNumber*, decNumber const*, decNumber const*, decContext*);
 
-inline Decimal Apply(Unary operation, Decimal const& a)
+template <class Operation, class... Operands>
+Decimal Apply(Operation operation, Operands const&... operands)
 {
     decContext context = MakeContext();
-    decNumber const operand = Decode(a);
     decNumber result;
-    operation(&result, &operand, &context);
-    return Encode(result);
-}
-
-inline Decimal Apply(Binary operation, Decimal const& a, Decimal const& b)
-{
-    decContext context = MakeContext();
-    decNumber const left = Decode(a);
-    decNumber const right = Decode(b);
-    decNumber result;
-    operation(&result, &left, &right, &context);
+    auto const apply = [&](auto const&... numbers) { operation(&result, &numbers..., &context); };
+    apply(Decode(operands)...);
     return Encode(result);
 }
 
 inline int Compare(Decimal const& a, Decimal const& b)
 {
-    decContext context = MakeContext();
-    decNumber const left = Decode(a);
-    decNumber const right = Decode(b);
-    decNumber result;
-    decNumberCompare(&result, &left, &right, &context);
+    decNumber const result = Decode(Apply(decNumberCompare, a, b));
     return decNumberIsNaN(&result) || decNumberIsZero(&result) ? 0 : decNumberIsNegative(&result) ? -1 : 1;
 }
 
