@@ -10,18 +10,6 @@ namespace
 
 std::string const c_time = LogFolder::c_time;
 
-std::string EncodeNaively(unsigned character)
-{
-    if (character < 0x80)
-        return { static_cast<char>(character) };
-    auto const trail = [&](unsigned shift) { return static_cast<char>(0x80U | (character >> shift & 0x3FU)); };
-    if (character < 0x800)
-        return { static_cast<char>(0xC0U | character >> 6U), trail(0) };
-    if (character < 0x10000)
-        return { static_cast<char>(0xE0U | character >> 12U), trail(6), trail(0) };
-    return { static_cast<char>(0xF0U | character >> 18U), trail(12), trail(6), trail(0) };
-}
-
 /// The message as the header says, unit by unit.
 std::string WriteNaively(std::wstring const& message)
 {
@@ -38,9 +26,9 @@ std::string WriteNaively(std::wstring const& message)
         else if ((unit > 0x7F && unit < 0xA0) || unit == 0x2028 || unit == 0x2029)
             text.append(escape, static_cast<std::size_t>(std::snprintf(escape, sizeof escape, "\\u%04X", unit)));
         else if (unit >= 0xD800 && unit < 0xDC00 && next >= 0xDC00 && next < 0xE000)
-            text += EncodeNaively(0x10000 + ((unit - 0xD800) << 10U) + (static_cast<unsigned>(message[++at]) - 0xDC00));
+            AppendUtf8(text, 0x10000 + ((unit - 0xD800) << 10U) + (static_cast<unsigned>(message[++at]) - 0xDC00));
         else
-            text += EncodeNaively(unit > 0xFFFF || (unit >= 0xD800 && unit < 0xE000) ? 0xFFFD : unit);
+            AppendUtf8(text, unit > 0xFFFF || (unit >= 0xD800 && unit < 0xE000) ? 0xFFFD : unit);
     }
     return text;
 }
