@@ -8,12 +8,9 @@ TEST(CancellationToken, EveryCopyHasItsOwnFlag)
     CancellationToken token;
     CancellationToken copy = token;
     copy.Cancel();
-    EXPECT_TRUE(copy.IsCanceled() && CancellationToken(std::move(copy)).IsCanceled());
-    EXPECT_FALSE(token.IsCanceled());
+    EXPECT_TRUE(copy.IsCanceled() && !token.IsCanceled());
     token = copy;
     EXPECT_TRUE(token.IsCanceled());
-    token = CancellationToken::None();
-    EXPECT_FALSE(token.IsCanceled());
 }
 
 namespace

@@ -24,19 +24,6 @@ wchar_t Unit(unsigned value)
     return static_cast<wchar_t>(value);
 }
 
-std::string MessageOfTheEnd(std::wstring const& text)
-{
-    CodePointEnumerator walk(text);
-    auto const walkOn = [&]
-    {
-        while (walk.MoveNext())
-            ;
-    };
-    std::string const message = MessageOf<std::out_of_range>(walkOn);
-    EXPECT_FALSE(walk.MoveNext()) << "the walk stands behind the unit";
-    return message;
-}
-
 } // namespace
 
 TEST(CodePoint, EveryUnitAloneAndEveryPairByItsHalves)
@@ -90,7 +77,10 @@ TEST(CodePointEnumerator, WalksAndStopsAtBrokenPairs)
     EXPECT_EQ((std::vector<std::wstring>{ L"a", MakeText({ 0xD83D, 0xDE00 }), MakeText({ 0xDC00 }), MakeText({ 0 }) }),
               found);
 
-    EXPECT_EQ("invalid string position", MessageOfTheEnd(MakeText({ 'a', 0xD83D })));
+    std::wstring const cutShort = MakeText({ 0xD83D });
+    CodePointEnumerator end(cutShort);
+    EXPECT_EQ("invalid string position", MessageOf<std::out_of_range>([&] { end.MoveNext(); }));
+    EXPECT_FALSE(end.MoveNext()) << "the walk stands behind the unit";
     std::wstring const broken = MakeText({ 0xD83D, 'x' });
     CodePointEnumerator walk(broken);
     EXPECT_THROW(walk.MoveNext(), Vek::ArgumentException);

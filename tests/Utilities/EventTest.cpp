@@ -3,34 +3,29 @@
 
 using namespace Vek::Framework::Utilities;
 
-TEST(Nullable, HoldsTypesWithoutDefaultConstructor)
+TEST(Nullable, KeepsTheFlagThenAValueWithoutDefaultConstructor)
 {
-    struct NoDefault
+    struct Number
     {
-        explicit NoDefault(int number) : value(number) {}
-        bool operator==(NoDefault const&) const = default;
+        explicit Number(int number) : value(number) {}
+        bool operator==(Number const&) const = default;
         int value;
     };
-    Nullable<NoDefault> nullable;
-    EXPECT_FALSE(nullable.HasValue());
-    EXPECT_THROW(nullable.GetValue(), Vek::InvalidStateException);
-    EXPECT_TRUE(nullable == Nullable<NoDefault>());
-    nullable = NoDefault(3);
-    EXPECT_EQ(3, nullable.GetValue().value);
-    EXPECT_TRUE(nullable == NoDefault(3) && nullable != NoDefault(4) && nullable != Nullable<NoDefault>());
-}
-
-TEST(Nullable, KeepsTheFlagThenTheValue)
-{
     struct Layout
     {
         bool hasValue;
-        long long value;
+        int value;
     };
-    static_assert(sizeof(Layout) == sizeof(Nullable<long long>) && std::is_trivially_copyable_v<Nullable<long long>>);
-    Nullable<long long> const number = 5; // what makes the value makes the Nullable
-    EXPECT_EQ(5, reinterpret_cast<Layout const&>(number).value);
-    EXPECT_TRUE(reinterpret_cast<bool const&>(number));
+    static_assert(sizeof(Layout) == sizeof(Nullable<Number>) && std::is_trivially_copyable_v<Nullable<Number>>);
+    Nullable<Number> nullable;
+    EXPECT_THROW(nullable.GetValue(), Vek::InvalidStateException);
+    EXPECT_TRUE(nullable == Nullable<Number>());
+    nullable = Number(3);
+    EXPECT_TRUE(nullable == Number(3) && nullable != Number(4) && nullable != Nullable<Number>());
+    EXPECT_EQ(3, reinterpret_cast<Layout const&>(nullable).value);
+    EXPECT_TRUE(reinterpret_cast<bool const&>(nullable));
+    Nullable<long long> const converted = 5; // what makes the value makes the Nullable
+    EXPECT_EQ(5, converted.GetValue());
     EXPECT_FALSE(Nullable<std::string>(std::string("a")) == Nullable<std::string>(std::string("b")));
 }
 

@@ -21,10 +21,11 @@ std::string WriteNaively(std::wstring const& message)
         char escape[8] = {};
         if (unit == '\n' || unit == '\r' || unit == '\t')
             text += unit == '\n' ? "\\n" : unit == '\r' ? "\\r" : "\\t";
-        else if (unit < 0x20 || unit == 0x7F)
-            text.append(escape, static_cast<std::size_t>(std::snprintf(escape, sizeof escape, "\\x%02X", unit)));
-        else if ((unit > 0x7F && unit < 0xA0) || unit == 0x2028 || unit == 0x2029)
-            text.append(escape, static_cast<std::size_t>(std::snprintf(escape, sizeof escape, "\\u%04X", unit)));
+        else if (unit < 0x20 || (unit > 0x7E && unit < 0xA0) || unit == 0x2028 || unit == 0x2029)
+        {
+            std::snprintf(escape, sizeof escape, unit < 0x80 ? "\\x%02X" : "\\u%04X", unit);
+            text += escape;
+        }
         else if (unit >= 0xD800 && unit < 0xDC00 && next >= 0xDC00 && next < 0xE000)
             AppendUtf8(text, 0x10000 + ((unit - 0xD800) << 10U) + (static_cast<unsigned>(message[++at]) - 0xDC00));
         else

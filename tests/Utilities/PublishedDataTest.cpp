@@ -23,22 +23,13 @@ bool IsRefused(std::string const& text)
     return MessageOf<std::range_error>([&] { WStringHelper::GetUTF16FromUTF8(text); }) == "bad conversion";
 }
 
-bool IsBeyondAscii(char c)
-{
-    return static_cast<unsigned char>(c) > 0x7F;
-}
-
 /// The runs of bytes beyond ASCII.
-std::vector<std::string> FindSequences(std::string const& line)
+std::vector<std::string> FindSequences(std::string line)
 {
-    std::vector<std::string> sequences;
-    for (auto at = line.begin(); (at = std::find_if(at, line.end(), IsBeyondAscii)) != line.end();)
-    {
-        auto const end = std::find_if_not(at, line.end(), IsBeyondAscii);
-        sequences.emplace_back(at, end);
-        at = end;
-    }
-    return sequences;
+    auto const isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+    std::replace_if(line.begin(), line.end(), isAscii, ' ');
+    std::istringstream sequences(line);
+    return { std::istream_iterator<std::string>(sequences), {} };
 }
 
 /// The number that a line begins with, as "3.2.1"; empty for a line without.

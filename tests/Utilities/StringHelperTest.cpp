@@ -138,12 +138,12 @@ TEST(StringHelper, WhitespaceAndIntegers)
 // Compiled as C++20 here: what the library does where the standard library is older.
 TEST(StringHelper, GrowingKeepsWhatWasThereAndWhatWasWritten)
 {
+    auto const fill = [](char* units, std::size_t size)
+    {
+        std::fill(units + 4, units + size, 'x');
+        return size - 30;
+    };
     std::string text = "kept";
-    Vek::Framework::Utilities::ResizeAndOverwrite(text, 40,
-                                                  [](char* units, std::size_t size)
-                                                  {
-                                                      std::fill(units + 4, units + size, 'x');
-                                                      return size - 30;
-                                                  });
+    Vek::Framework::Utilities::ResizeAndOverwrite(text, 40, fill);
     EXPECT_EQ("keptxxxxxx", text);
 }

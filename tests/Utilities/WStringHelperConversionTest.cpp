@@ -77,17 +77,16 @@ TEST(WStringHelperConversion, EveryCharacterThroughUtf8AndBack)
 
 TEST(WStringHelperConversion, Utf8OfEveryMixtureInABlock)
 {
-    unsigned const others[] = { 0x80, 0x7FF, 0x800, 0xD83D };
+    unsigned const others[] = { 0x80, 0x7FF, 0x800, 0x1F600 };
     for (unsigned mask = 0; mask < 0x10000; ++mask)
     {
         std::wstring units(mask % 3, L'x');
         std::string expected(mask % 3, 'x');
         for (unsigned unit = 0; unit < 16; ++unit)
         {
-            bool const isOther = (mask >> unit & 1) != 0;
             // Above 0x7FF only now and then: most blocks have one or two bytes a unit.
-            unsigned const other = others[mask % 7 == 0 ? unit % 4 : unit % 2];
-            unsigned const character = !isOther ? 'a' + unit : other == 0xD83D ? 0x1F600 : other;
+            unsigned const other = others[unit % (mask % 7 == 0 ? 4 : 2)];
+            unsigned const character = (mask >> unit & 1) != 0 ? other : 'a' + unit;
             AppendUtf16(units, character);
             AppendUtf8(expected, character);
         }
